@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: MIT
+#include "festival/calendar_festival_function.h"
+
+#include <almara/almara_types.h>
+
+#include <cstdint>
+#include <iterator>
+
+#include "date/day_run.h"
+
+namespace {
+
+constexpr int kMinYear = 1900;
+constexpr int kMaxYear = 2099;
+
+constexpr std::int32_t kNotComputed = -1;
+
+bool IsBoardMonth(int year, int month) {
+  return year >= kMinYear && year <= kMaxYear && month >= 1 && month <= 12;
+}
+
+bool IsLeapYear(int year) { return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0; }
+
+void Write(std::int32_t value, int* out) {
+  if (out != nullptr) {
+    *out = value;
+  }
+}
+
+// The constants of Gauss's rule, by the last year they hold for.
+struct GaussConstants {
+  int lastYear;
+  int m;
+  int n;
+};
+
+constexpr int kGaussFirstYear = 1583;
+constexpr GaussConstants kGaussConstants[] = {
+    {1699, 22, 2}, {1799, 23, 3}, {1899, 23, 4}, {2099, 24, 5}, {2199, 24, 6}, {2299, 25, 0},
+};
+
+// Null outside the years of the rule.
+const GaussConstants* GaussConstantsOf(int year) {
+  if (year < kGaussFirstYear) {
+    return nullptr;
+  }
+  for (const GaussConstants& constants : kGaussConstants) {
+    if (year <= constants.lastYear) {
+      return &constants;
+    }
+  }
+  return nullptr;
+}
+
+struct MonthDay {
+  int month;
+  int day;
+};
+
+// Easter Sunday by Gauss's rule.
+MonthDay GaussEaster(int year, const GaussConstants& constants) {
+  const int a = year % 19;
+  const int d = (19 * a + constants.m) % 30;
+  const int e = (2 * (year % 4) + 4 * (year % 7) + 6 * d + constants.n) % 7;
+  if (d + e < 10) {
+    return {3, d + e + 22};
+  }
+  const int day = d + e - 9;
+  if (day == 26) {
+    return {4, 19};
+  }
+  if (day == 25 && d == 28 && e >= 6 && a >= 11) {
+    return {4, 18};
+  }
+  return {4, day};
+}
+
+// Easter Sunday by the anonymous Gregorian rule. Before year 1 the date means nothing, but is one
+// of February to April.
+MonthDay AnonymousEaster(int year) {
+  const int a = year % 19;
+  const int b = year / 100;
+  const int cy = year % 100;
+  const int d = b / 4;
+  const int e = b % 4;
+  const int f = (b + 8) / 25;
+  const int g = (b - f + 1) / 3;
+  const int h = (19 * a + b - d - g + 15) % 30;
+  const int i = cy / 4;
+  const int k = cy % 4;
+  const int l = (32 + 2 * e + 2 * i - h - k) % 7;
+  const int m = (a + 11 * h + 22 * l) / 451;
+  const int p = h + l - 7 * m + 114;
+  return {p / 31, p % 31 + 1};
+}
+
+// What the Easter rules computed last. Those of _GetEasterDay are its own.
+struct EasterCache {
+  std::int32_t suEasterYear = kNotComputed;
+  std::int32_t suEasterMonth = kNotComputed;
+  std::int32_t suEasterDay = kNotComputed;
+
+  bool Holds(int year) const {
+    return suEasterMonth != kNotComputed && suEasterDay != kNotComputed && suEasterYear == year;
+  }
+
+  void Compute(int year) {
+    const MonthDay easter = AnonymousEaster(year);
+    suEasterYear = year;
+    suEasterMonth = easter.month;
+    suEasterDay = easter.day;
+  }
+};
+
+EasterCache easterCache;
+
+// The Friday at or before a date. A date that the system cannot convert gives all zeroes.
+CCalendarSolarDate FridayBefore(CCalendarSolarDate date) {
+  constexpr int kDaysOfWeek = 7;
+  const DayRun run(date.year, date.month, date.day);
+  for (int offset = 0; offset > -kDaysOfWeek; --offset) {
+    CCalendarSolarDate earlier{};
+    if (run.DateAt(offset, earlier) && earlier.dayOfWeek == eCalendarWeekFriday) {
+      return earlier;
+    }
+  }
+  return {};
+}
+
+}  // namespace
+
+const int CCalendarFestivalFunction::s_ArrDaysOfSolarMonth[12] = {31, 28, 31, 30, 31, 30,
+                                                                  31, 31, 30, 31, 30, 31};
+
+int CCalendarFestivalFunction::_GetDayByWeekNumberOfMonth(int year, int month, int n, int weekday) {
+  const int days = _GetMaxDaysOfSolarMonth(year, month);
+  if (days < 0) {
+    return -1;
+  }
+  const DayRun run(year, month, 1);
+  int count = 0;
+  for (int offset = 0; offset <= days; ++offset) {
+    CCalendarSolarDate date{};
+    if (run.DateAt(offset, date) && date.dayOfWeek == weekday && ++count == n) {
+      return date.day;
+    }
+  }
+  return -1;
+}
+
+int CCalendarFestivalFunction::_GetMaxDaysOfSolarMonth(int year, int month) {
+  if (!IsBoardMonth(year, month)) {
+    return -1;
+  }
+  return month == 2 && IsLeapYear(year) ? 29 : s_ArrDaysOfSolarMonth[month - 1];
+}
+
+int CCalendarFestivalFunction::_GetEasterDay(int year, int* month, int* day) {
+  static std::int32_t suEasterMonth = kNotComputed;
+  static std::int32_t suEasterDay = kNotComputed;
+  if (suEasterMonth == kNotComputed || suEasterDay == kNotComputed) {
+    const GaussConstants* constants = GaussConstantsOf(year);
+    if (constants == nullptr || month == nullptr || day == nullptr) {
+      return 0;
+    }
+    const MonthDay easter = GaussEaster(year, *constants);
+    suEasterMonth = easter.month;
+    suEasterDay = easter.day;
+  }
+  Write(suEasterMonth, month);
+  Write(suEasterDay, day);
+  return 1;
+}
+
+int CCalendarFestivalFunction::_GetEasterDay2(int year, int* month, int* day) {
+  if (!easterCache.Holds(year)) {
+    easterCache.Compute(year);
+    return 1;
+  }
+  Write(easterCache.suEasterMonth, month);
+  Write(easterCache.suEasterDay, day);
+  return 1;
+}
+
+int CCalendarFestivalFunction::_GetGoodFriday(int year, int* month, int* day) {
+  static std::int32_t suGoodFridayMonth = kNotComputed;
+  static std::int32_t suGoodFridayDay = kNotComputed;
+  if (month == nullptr || day == nullptr) {
+    return 0;
+  }
+  if (suGoodFridayDay == year && suGoodFridayMonth != kNotComputed &&
+      suGoodFridayDay != kNotComputed) {
+    *month = suGoodFridayMonth;
+    *day = year;
+    return 1;
+  }
+  if (!easterCache.Holds(year)) {
+    easterCache.Compute(year);
+  }
+  const CCalendarSolarDate friday =
+      FridayBefore({year, easterCache.suEasterMonth, easterCache.suEasterDay, 0});
+  suGoodFridayMonth = friday.month;
+  suGoodFridayDay = friday.day;
+  *month = suGoodFridayMonth;
+  *day = suGoodFridayDay;
+  return 1;
+}
