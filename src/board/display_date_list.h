@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#ifndef ALMARA_BOARD_DISPLAY_DATE_LIST_H_
+#define ALMARA_BOARD_DISPLAY_DATE_LIST_H_
+
+#include <almara/almara_types.h>
+
+#include <cstdint>
+#include <type_traits>
+
+// One entry of the flat lists from which a board is cut, of four kinds:
+//   real day               the date above, zeroes below
+//   hidden day             zeroes above, the date below: kept on the board but not shown as a day
+//   month-interval title   year 0, the month that begins, day 1; zeroes below
+//   month-interval filler  all zeroes
+struct CCalendarSolarDateEx {
+  std::int32_t year;
+  std::int32_t month;
+  std::int32_t day;
+  std::int32_t dayOfWeek;
+  std::int32_t hiddenYear;
+  std::int32_t hiddenMonth;
+  std::int32_t hiddenDay;
+  std::int32_t hiddenDayOfWeek;
+
+  static CCalendarSolarDateEx RealDay(const CCalendarSolarDate& date) {
+    return {date.year, date.month, date.day, date.dayOfWeek, 0, 0, 0, 0};
+  }
+  static CCalendarSolarDateEx HiddenDay(const CCalendarSolarDate& date) {
+    return {0, 0, 0, 0, date.year, date.month, date.day, date.dayOfWeek};
+  }
+  static CCalendarSolarDateEx IntervalTitle(std::int32_t month) {
+    return {0, month, 1, 0, 0, 0, 0, 0};
+  }
+  static CCalendarSolarDateEx IntervalFiller() { return {}; }
+
+  // Hidden days and fillers.
+  bool IsBlank() const { return year == 0 && month == 0 && day == 0; }
+  bool IsIntervalTitle() const { return year == 0 && day == 1; }
+
+  CCalendarSolarDate ShownDate() const { return {year, month, day, dayOfWeek}; }
+};
+static_assert(sizeof(CCalendarSolarDateEx) == 32 && std::is_trivial_v<CCalendarSolarDateEx>);
+
+#endif  // ALMARA_BOARD_DISPLAY_DATE_LIST_H_
