@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#ifndef ALMARA_LOGIC_CALENDAR_LOGIC_H_
+#define ALMARA_LOGIC_CALENDAR_LOGIC_H_
+
+#include <almara/almara_types.h>
+
+#include "board/calendar_logic_build.h"
+#include "date/date_memo.h"
+#include "festival/calendar_festival.h"
+#include "lunar/calendar_lunar_solar_terms.h"
+#include "lunar/lunar_quarter_memo.h"
+
+// The engine as the host sees it: options and board by inheritance, and on top of them navigation,
+// queries of the built board and the annotation of dates.
+//
+// Each navigation rebuilds the whole board; each query reads the last build. A date that no board
+// can be built for (outside 1900 to 2099) leaves the board as it was. To be driven from one thread.
+class CCalendarLogic : public CCalendarLogicBuild {
+ public:
+  CCalendarLogic() : m_festival(this) {}
+
+  // Fixes the time zone of lunar dates and solar terms to 8 (language 1 or 4) or 9 hours (2 or 7),
+  // or leaves it as it is, and builds today's board. The language itself is not kept.
+  void InitCalendarLogic(ELanguage language);
+
+  // Builds today's board. Where the focus date already is today, the page direction stays.
+  void Build();
+
+  // Builds today's board as a plain build.
+  void GotoToday();
+
+  // Page by calendar month in the month arrangements, keeping the page direction; in all others by
+  // the days shown, setting it.
+  void GotoPreviousPage();
+  void GotoNextPage();
+
+  // The month step of the two above, on its own.
+  void _GotoPreviousMonth();
+  void _GotoNextMonth();
+
+  // Builds the board of a date. Outside the whole-month arrangement a date before the first day
+  // shown ends the new board, a date behind the last one opens it. Dates are compared as they are
+  // given.
+  void GotoSpecifiedDate(int year, int month, int day);
+
+  // Whole-month arrangement: offset months from this month. All others: offset pages of as many
+  // weeks as the board has rows, from today. Writes the date to the standard output.
+  void GotoTodayOffsetMonth(int offset);
+
+  int GetContentRows() const { return m_visibleRowCount; }
+  int GetContentColumns() const { return m_visibleColumnCount; }
+
+  // The cell at a visible row and column, a default cell outside them.
+  CCalendarItem GetContentItem(int row, int column) const;
+
+  // The day of the week over a visible column; 0 for a column outside 0 to 6.
+  int GetCalendarWeekByColumns(int column) const;
+
+  int GetWeekNumberCount() const { return static_cast<int>(m_weekNumberSpans.size()); }
+
+  // A span from the top, all zeroes for an index outside 0 to GetWeekNumberCount() - 1.
+  tagCalendarWeekSpan GetWeekNumberItem(int index) const;
+
+  // The focus date as it was passed, its day of week 0. All zeroes before the first build.
+  CCalendarSolarDate GetContentDate() const { return {m_focusYear, m_focusMonth, m_focusDay, 0}; }
+
+  CCalendarSolarDate GetToday() const;
+
+  bool IsTodayInBoard() const { return m_todayOnBoard; }
+
+  // The annotation of a date (annotation_lookups.cpp). Every int is accepted and nothing is
+  // checked; the day of the week does not matter. The first answer for a date, or for a language
+  // and date, is kept for good, whatever the zone becomes.
+  CCalendarLunarDate ConverterLunar(CCalendarSolarDate date);
+  ESolarKyureki24 Check24Sekki(CCalendarSolarDate date);
+  EFestivalSolar CheckFestivalSolar(ELanguage language, CCalendarSolarDate date);
+  EFestivalLunar CheckFestivalLunar(ELanguage language, CCalendarSolarDate date);
+
+ protected:
+  // Answers by date, those of the festivals by language and date.
+  DateMemo<CCalendarLunarDate> m_mapLunarDateCache;
+  DateMemo<ESolarKyureki24> m_map24SekkiCache;
+  DateMemo<EFestivalSolar> m_mapFestivalSolarCache;
+  DateMemo<EFestivalLunar> m_mapFestivalLunarCache;
+
+  CCalendarFestival m_festival;  // asks this object for lunar dates
+  CCalendarLunarSolarTerms m_lunarSolarTerms;
+  LunarQuarterMemo m_lunarQuarters;  // work that the lunar dates of a quarter share
+
+ private:
+  bool _PagesByMonth() const;
+  void _GotoMonthOffset(const CCalendarSolarDate& today, int offset);
+  void _GotoPageOffset(const CCalendarSolarDate& today, int offset);
+};
+
+#endif  // ALMARA_LOGIC_CALENDAR_LOGIC_H_
