@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+//
+// The exported annotation of dates. Each hands its date to the engine without the day of the week,
+// or gives its fallback while there is none.
+#include <almara/almara.h>
+
+#include "api/engine.h"
+
+namespace {
+
+CCalendarSolarDate WithoutDayOfWeek(CCalendarSolarDate date) {
+  return {date.year, date.month, date.day, 0};
+}
+
+}  // namespace
+
+// The engine exists once loading has succeeded; there is no fallback for a lunar date.
+CCalendarLunarDate ConverterLunarWithDate(CCalendarSolarDate date) {
+  return g_pCalendarLogic->ConverterLunar(WithoutDayOfWeek(date));
+}
+
+ESolarKyureki24 Check24SekkiWithDate(CCalendarSolarDate date) {
+  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->Check24Sekki(WithoutDayOfWeek(date))
+                                     : eSekkiNone;
+}
+
+EFestivalSolar CheckFestivalSolarWithLang(ELanguage language, CCalendarSolarDate date) {
+  return g_pCalendarLogic != nullptr
+             ? g_pCalendarLogic->CheckFestivalSolar(language, WithoutDayOfWeek(date))
+             : eFestivalSolarNone;
+}
+
+EFestivalLunar CheckFestivalLunarWithLang(ELanguage language, CCalendarSolarDate date) {
+  return g_pCalendarLogic != nullptr
+             ? g_pCalendarLogic->CheckFestivalLunar(language, WithoutDayOfWeek(date))
+             : eFestivalLunarNone;
+}
