@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// Draws a board as lines of text; one-shot output and full screen share it.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "annotations.h"
+#include "board.h"
+#include "glyphs.h"
+#include "styled_text.h"
+#include "texts.h"
+
+namespace viewer {
+
+struct PaintSettings {
+  int width = 80;  // terminal cells that may be used
+  bool weekNumbers = true;
+  const Texts* texts = nullptr;
+  const Glyphs* glyphs = nullptr;
+  Annotator* annotator = nullptr;  // null: no line under the days
+  std::optional<CivilDate> selected;
+};
+
+struct PaintedBoard {
+  Line title;
+  Line headings;
+  std::vector<std::vector<Line>> rows;  // the lines of each visible row, the same number for all
+};
+
+PaintedBoard paintBoard(const Board& board, const PaintSettings& settings);
+
+}  // namespace viewer

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "engine.h"
+
+#include <almara/almara.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+
+namespace viewer {
+namespace {
+
+std::string readConfigKey() {
+  const std::unique_ptr<char, decltype(&std::free)> key(GetConfigKey(), &std::free);
+  return key ? key.get() : "";
+}
+
+std::vector<tagCalendarCell> readRow(int row, int columns) {
+  std::vector<tagCalendarCell> cells;
+  cells.reserve(static_cast<std::size_t>(columns));
+  for (int column = 0; column < columns; ++column) {
+    cells.push_back(GetContentItem(row, column));
+  }
+  return cells;
+}
+
+}  // namespace
+
+void startEngine(const BoardOptions& options) {
+  applyOptions(options);
+  InitCalendarLogicDt(options.language);
+}
+
+void applyOptions(const BoardOptions& options) {
+  SetDispMonth(options.mode);
+  SetMaxRow(options.rows);
+  SetPassedWeeks(options.passedWeeks);
+  SetStartDayOfWeek(options.firstDay);
+  SetStartWeekNumber(options.startWeek);
+  SetWeekNumberCalcType(options.weekRule);
+  SetShowMonthInterval(options.monthIntervals);
+  SetHideBreakDay(options.hideBreakDays);
+  SetShowBreakDayOfWeek(!options.hideBreakDays);
+  for (int day = eCalendarWeekSunday; day <= eCalendarWeekSaturday; ++day) {
+    SetBreakDayOfWeek(day, options.breakDays[static_cast<std::size_t>(day)]);
+  }
+}
+
+void showDate(const BoardOptions& options, CivilDate date) {
+  // A date that is not on the board would be shown as if paged to: at the board's edge, without the
+  // passed weeks, and as no row at all in the tail arrangement. So today first, which ends paging,
+  // then the date's whole month, which is found without paging, and from there the date itself.
+  SetDispMonth(eDispMonthWholeMonth);
+  GotoToday();
+  GotoSpecifiedDate(date.year, date.month, date.day);
+  SetDispMonth(options.mode);
+  GotoSpecifiedDate(date.year, date.month, date.day);
+}
+
+void takeStep(const Step& step) {
+  switch (step.kind) {
+    case Step::Kind::Next:
+      GotoNextPage();
+      break;
+    case Step::Kind::Previous:
+      GotoPreviousPage();
+      break;
+    case Step::Kind::Offset:
+      GotoTodayOffset(step.offset);
+      break;
+  }
+}
+
+bool offsetStaysInRange(const BoardOptions& options, CivilDate today, int offset) {
+  if (options.mode == eDispMonthWholeMonth) {
+    const std::int64_t month = std::int64_t{today.year} * 12 + today.month - 1 + offset;
+    return month >= std::int64_t{kFirstYear} * 12 && month < std::int64_t{kLastYear + 1} * 12;
+  }
+  const std::int64_t day = dayNumber(today) + std::int64_t{7} * options.rows * offset;
+  return day >= dayNumber(kFirstDate) && day <= dayNumber(kLastDate);
+}
+
+Board readBoard() {
+  Board board;
+  board.mode = GetDispMonth();
+  const int columns = GetContentColumns();
+  for (int column = 0; column < columns; ++column) {
+    board.headings.push_back(GetCalendarWeekByColumns(column));
+    board.breakColumns.push_back(IsBreakDayOfWeek(board.headings.back()));
+  }
+  for (int row = 0; row < GetContentRows(); ++row) {
+    board.rows.push_back(readRow(row, columns));
+  }
+  for (int index = 0; index < GetWeekNumberCount(); ++index) {
+    board.weekSpans.push_back(GetWeekNumberItemWithIndex(index));
+  }
+  board.contentDate = GetContentDate();
+  board.today = GetToday();
+  board.todayOnBoard = IsTodayInBoard();
+  board.configKey = readConfigKey();
+  return board;
+}
+
+CivilDate readToday() { return dateOf(GetToday()); }
+
+}  // namespace viewer

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// The signs that a board is drawn with; each takes one terminal cell.
+#pragma once
+
+namespace viewer {
+
+struct Glyphs {
+  const char* rule;     // month intervals
+  const char* spanTop;  // week-number spans
+  const char* spanMiddle;
+  const char* spanBottom;
+  const char* spanSingle;  // a span of one line
+  const char* breakDay;    // behind a break day
+  const char* ellipsis;    // where a text was cut
+};
+
+constexpr Glyphs kUnicodeGlyphs = {"─", "╭", "│", "╰", "╶", "·", "…"};
+constexpr Glyphs kAsciiGlyphs = {"-", "/", "|", "\\", "-", ".", "~"};
+
+constexpr const Glyphs& glyphsFor(bool utf8) { return utf8 ? kUnicodeGlyphs : kAsciiGlyphs; }
+
+}  // namespace viewer

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "locale_settings.h"
+
+#include <langinfo.h>
+
+#include <algorithm>
+#include <cctype>
+#include <clocale>
+#include <cstdlib>
+#include <initializer_list>
+
+namespace viewer {
+namespace {
+
+// The first variable of the list that is set and not empty, as POSIX has it.
+std::string firstSet(std::initializer_list<const char*> variables) {
+  for (const char* variable : variables) {
+    const char* value = std::getenv(variable);
+    if (value != nullptr && *value != '\0') {
+      return value;
+    }
+  }
+  return {};
+}
+
+bool namesUtf8(std::string localeName) {
+  std::transform(localeName.begin(), localeName.end(), localeName.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return localeName.find("utf-8") != std::string::npos ||
+         localeName.find("utf8") != std::string::npos;
+}
+
+bool localeIsUtf8() { return std::string(nl_langinfo(CODESET)) == "UTF-8"; }
+
+}  // namespace
+
+LocaleSettings useLocale() {
+  if (std::setlocale(LC_ALL, "") == nullptr) {
+    // The user's locale is not installed here; a terminal that is said to be UTF-8 still is.
+    std::setlocale(LC_ALL, "C");
+    if (namesUtf8(firstSet({"LC_ALL", "LC_CTYPE", "LANG"}))) {
+      std::setlocale(LC_CTYPE, "C.UTF-8");
+    }
+  }
+  return {languageOfLocale(firstSet({"LC_ALL", "LC_TIME", "LANG"})), localeIsUtf8()};
+}
+
+ELanguage languageOfLocale(const std::string& name) {
+  struct Rule {
+    const char* prefix;
+    ELanguage language;
+  };
+  // The first match counts, so a territory stands before its language.
+  constexpr Rule kRules[] = {
+      {"zh_TW", eLanguageCht}, {"zh_HK", eLanguageCht}, {"zh_MO", eLanguageCht},
+      {"zh", eLanguageChs},    {"ko", eLanguageKor},    {"ja", eLanguageJpn},
+      {"vi", eLanguageVit},    {"th", eLanguageTha},    {"ru", eLanguageRus},
+      {"de", eLanguageDeu},    {"en_US", eLanguageUsa},
+  };
+  const std::string locale = name.substr(0, name.find_first_of(".@"));
+  const std::string language = locale.substr(0, locale.find('_'));
+  for (const Rule& rule : kRules) {
+    if (locale == rule.prefix || language == rule.prefix) {
+      return rule.language;
+    }
+  }
+  return eLanguageEng;
+}
+
+}  // namespace viewer
