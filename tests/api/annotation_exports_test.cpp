@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+//
+// The exported annotation of dates, seen through the shared library alone.
+#include <almara/almara.h>
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <map>
+#include <random>
+#include <tuple>
+#include <utility>
+
+#include "festival/in_fresh_process.h"
+#include "support/zone.h"
+
+namespace {
+
+constexpr int kMin = std::numeric_limits<int>::min();
+constexpr int kMax = std::numeric_limits<int>::max();
+
+void Initialise(int32_t language) {
+  testing::internal::CaptureStdout();
+  InitCalendarLogicDt(language);
+  testing::internal::GetCapturedStdout();
+}
+
+// Major Snow of 2024 falls on 6 December in UTC+8 and on 7 December in UTC+9.
+TEST(AnnotationZone, ALaterLanguageMovesNewAnswersOnly) {
+  EXPECT_TRUE(HoldsInFreshProcess([] {
+    Initialise(eLanguageChs);
+    const bool before = Check24SekkiWithDate({2024, 12, 6, 0}) == eSekkiMajorSnow;
+    Initialise(eLanguageKor);
+    const bool kept = Check24SekkiWithDate({2024, 12, 6, 0}) == eSekkiMajorSnow;
+    return before && kept && Check24SekkiWithDate({2024, 12, 7, 0}) == eSekkiMajorSnow;
+  }));
+}
+
+// The summer solstice of 2024, 20:51 UT, is 20 June in UTC-3 and 21 June in UTC+14.
+TEST(AnnotationZone, ALanguageWithoutAZoneTakesTheMachines) {
+  const auto solsticeIsOn = [](const char* zone, int32_t language, int32_t day) {
+    const almara_test::ScopedZone machine(zone);
+    return HoldsInFreshProcess([=] {
+      Initialise(language);
+      return Check24SekkiWithDate({2024, 6, day, 0}) == eSekkiSummerSolstice;
+    });
+  };
+  EXPECT_TRUE(solsticeIsOn("XXX+3:30", eLanguageUsa, 20));
+  EXPECT_TRUE(solsticeIsOn("XXX-14", eLanguageVit, 21));
+}
+
+TEST(AnnotationZone, BeforeItIsKnownAnswersMeanNothingButCome) {
+  EXPECT_TRUE(HoldsInFreshProcess([] {
+    const CCalendarLunarDate lunar = ConverterLunarWithDate({2024, 2, 10, 0});
+    return lunar.month >= 1 && Check24SekkiWithDate({2024, 6, 21, 0}) == eSekkiNone;
+  }));
+}
+
+// The lookups of eLanguageUsa as a host sees them: the first answer for a date stays, and Easter is
+// known if the last date worked out was of the same year.
+class EasterModel {
+ public:
+  int Ask(int year, int month, int day) {
+    const auto [kept, isNew] = m_answers.try_emplace({year, month, day}, 0);
+    if (isNew) {
+      const bool known = m_lastYear == year;
+      m_lastYear = year;
+      kept->second = Answer(year, month, day, known);
+    }
+    return kept->second;
+  }
+
+ private:
+  struct Easter {
+    int month;
+    int day;
+    int fridayMonth;
+    int fridayDay;
+  };
+
+  static int Answer(int year, int month, int day, bool easterIsKnown) {
+    const Easter easter = Easters().at(year);
+    if (easterIsKnown && month == easter.month && day == easter.day) {
+      return eFestivalSolarEaster;
+    }
+    if (month == easter.fridayMonth && day == easter.fridayDay) {
+      return eFestivalSolarGoodFriday;
+    }
+    return month == 4 && day == 1 ? eFestivalSolarAprilFoolsDay : eFestivalSolarNone;
+  }
+
+  static const std::map<int, Easter>& Easters() {
+    static const std::map<int, Easter> easters = {{2018, {4, 1, 3, 30}},
+                                                  {2024, {3, 31, 3, 29}},
+                                                  {2025, {4, 20, 4, 18}},
+                                                  {2026, {4, 5, 4, 3}}};
+    return easters;
+  }
+
+ public:
+  // The dates asked: Easter, Good Friday and a day without a festival of each year.
+  static std::tuple<int, int, int> Date(unsigned number) {
+    auto year = Easters().begin();
+    std::advance(year, number / 3 % Easters().size());
+    switch (number % 3) {
+      case 0:
+        return {year->first, year->second.month, year->second.day};
+      case 1:
+        return {year->first, year->second.fridayMonth, year->second.fridayDay};
+      default:
+        return {year->first, 8, 20};
+    }
+  }
+
+ private:
+  std::map<std::tuple<int, int, int>, int> m_answers;
+  int m_lastYear = 0;
+};
+
+int AskUsa(int year, int month, int day) {
+  return CheckFestivalSolarWithLang(eLanguageUsa, {year, month, day, 0});
+}
+
+TEST(EasterQueries, TheFirstOfAYearMissesEasterForGood) {
+  EXPECT_TRUE(HoldsInFreshProcess([] {
+    return AskUsa(2024, 3, 31) == 0 && AskUsa(2024, 3, 31) == 0 && AskUsa(2024, 8, 20) == 0 &&
+           AskUsa(2024, 3, 31) == 0;
+  }));
+}
+
+TEST(EasterQueries, AMonthAskedInOrderFindsEaster) {
+  EXPECT_TRUE(HoldsInFreshProcess([] {
+    bool holds = true;
+    for (int day = 1; day <= 31; ++day) {
+      const int expected = day == 31   ? eFestivalSolarEaster
+                           : day == 29 ? eFestivalSolarGoodFriday
+                           : day == 8  ? eFestivalSolarWomensDay
+                                       : eFestivalSolarNone;
+      holds = holds && AskUsa(2024, 3, day) == expected;
+    }
+    return holds;
+  }));
+}
+
+TEST(EasterQueries, AKeptDateDoesNotBringItsYearBack) {
+  EXPECT_TRUE(HoldsInFreshProcess([] {
+    AskUsa(2024, 8, 20);
+    AskUsa(2025, 8, 20);
+    AskUsa(2024, 8, 20);  // kept, so 2025 stays the last year worked out
+    return AskUsa(2024, 3, 31) == 0 && AskUsa(2025, 4, 20) == 0;
+  }));
+}
+
+TEST(EasterQueries, WhereEasterIsMissedTheCommonFestivalShows) {
+  EXPECT_TRUE(HoldsInFreshProcess([] { return AskUsa(2018, 4, 1) == 1002; }));
+  EXPECT_TRUE(HoldsInFreshProcess(
+      [] { return AskUsa(2018, 3, 30) == 4004 && AskUsa(2018, 4, 1) == 4003; }));
+}
+
+TEST(EasterQueries, EveryInterleavingAgreesCallByCall) {
+  for (unsigned seed = 0; seed < 300; ++seed) {
+    EXPECT_EQ(-1, ValueInFreshProcess([seed] {
+      std::mt19937 random(seed);
+      EasterModel model;
+      for (int call = 0; call < 60; ++call) {
+        const auto [year, month, day] = EasterModel::Date(static_cast<unsigned>(random()));
+        if (AskUsa(year, month, day) != model.Ask(year, month, day)) {
+          return call;
+        }
+      }
+      return -1;
+    })) << seed;
+  }
+}
+
+// The tests of this fixture ask in this process; all others in processes of their own, which begin
+// with the engine as this one has left it. So these stand last.
+class AnnotationExports : public testing::Test {
+ protected:
+  static void SetUpTestSuite() { Initialise(eLanguageChs); }
+};
+
+void ExpectLunar(const CCalendarLunarDate& lunar, int year, int month, int day, int leap) {
+  EXPECT_EQ(lunar.year, year);
+  EXPECT_EQ(lunar.month, month);
+  EXPECT_EQ(lunar.day, day);
+  EXPECT_EQ(lunar.reserved, 0);
+  EXPECT_EQ(lunar.leap, leap);
+}
+
+TEST_F(AnnotationExports, LunarDates) {
+  ExpectLunar(ConverterLunarWithDate({2024, 2, 10, 0}), 2024, 1, 1, 0);
+  ExpectLunar(ConverterLunarWithDate({2023, 3, 22, 0}), 2023, 2, 1, 1);
+  ExpectLunar(ConverterLunarWithDate({2033, 12, 22, 0}), 2033, 11, 1, 1);
+  ExpectLunar(ConverterLunarWithDate({2017, 3, 27, 0}), 2017, 2, 30, 0);
+}
+
+TEST_F(AnnotationExports, TheDayOfTheWeekMakesNoDifference) {
+  ExpectLunar(ConverterLunarWithDate({2024, 2, 11, 5}), 2024, 1, 2, 0);
+  ExpectLunar(ConverterLunarWithDate({2024, 2, 11, 0}), 2024, 1, 2, 0);
+  EXPECT_EQ(Check24SekkiWithDate({2024, 12, 21, 99}), eSekkiWinterSolstice);
+  EXPECT_EQ(CheckFestivalSolarWithLang(0, {2023, 11, 23, 1}), eFestivalSolarThanksgiving);
+  EXPECT_EQ(CheckFestivalLunarWithLang(1, {2024, 2, 10, kMin}), eFestivalLunarNewYearsDay);
+}
+
+TEST_F(AnnotationExports, SolarTerms) {
+  EXPECT_EQ(Check24SekkiWithDate({2024, 3, 20, 0}), eSekkiSpringEquinox);
+  EXPECT_EQ(Check24SekkiWithDate({2024, 3, 21, 0}), eSekkiNone);
+  EXPECT_EQ(Check24SekkiWithDate({2024, 6, 21, 0}), eSekkiSummerSolstice);
+  EXPECT_EQ(Check24SekkiWithDate({1799, 1, 6, 0}), eSekkiNone);
+  EXPECT_EQ(Check24SekkiWithDate({2100, 1, 5, 0}), eSekkiNone);
+}
+
+TEST_F(AnnotationExports, Festivals) {
+  EXPECT_EQ(CheckFestivalSolarWithLang(eLanguageKor, {2024, 12, 25, 0}), 3006);
+  EXPECT_EQ(CheckFestivalSolarWithLang(0, {2024, 12, 25, 0}), 1011);
+  EXPECT_EQ(CheckFestivalSolarWithLang(eLanguageChs, {2024, 1, 9, 0}), 0);
+  EXPECT_EQ(CheckFestivalLunarWithLang(eLanguageChs, {2024, 2, 9, 0}), 20009);
+  EXPECT_EQ(CheckFestivalLunarWithLang(eLanguageKor, {2024, 5, 15, 0}), 20010);
+  EXPECT_EQ(CheckFestivalLunarWithLang(eLanguageTha, {2024, 2, 10, 0}), 0);
+}
+
+TEST_F(AnnotationExports, EveryIntIsAnswered) {
+  constexpr int kInts[] = {kMin, -70202147, -1, 0, 1, 13, 2024, 5879488, kMax};
+  for (const int year : kInts) {
+    for (const int month : kInts) {
+      for (const int day : kInts) {
+        for (const int language : {kMin, 1, 3, kMax}) {
+          const CCalendarSolarDate date{year, month, day, kMax};
+          ConverterLunarWithDate(date);
+          Check24SekkiWithDate(date);
+          CheckFestivalSolarWithLang(language, date);
+          CheckFestivalLunarWithLang(language, date);
+        }
+      }
+    }
+  }
+}
+
+}  // namespace

@@ -1,0 +1,319 @@
+// SPDX-License-Identifier: MIT
+//
+// The exported functions of the built library, one fresh engine per test. Today is Wednesday,
+// 13 March 2024.
+#include <almara/almara.h>
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "api/records_layout.h"
+#include "support/capture_stdout.h"
+
+using almara_test::CaptureStdout;
+
+namespace {
+
+constexpr std::int32_t kMin = std::numeric_limits<std::int32_t>::min();
+constexpr std::int32_t kMax = std::numeric_limits<std::int32_t>::max();
+constexpr char kDefaultKey[] = "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1";
+
+std::string Text(const CCalendarSolarDate& d) {
+  return std::to_string(d.year) + "-" + std::to_string(d.month) + "-" + std::to_string(d.day) +
+         " (" + std::to_string(d.dayOfWeek) + ")";
+}
+
+std::string Text(const tagCalendarCell& c) {
+  std::string text;
+  for (const std::int32_t field :
+       {c.year, c.month, c.day, c.dayOfWeek, c.weekNumber, c.row, c.column, c.type}) {
+    text += (text.empty() ? "" : " ") + std::to_string(field);
+  }
+  return text;
+}
+
+std::string Text(const tagWeekNumberSpan& s) {
+  return std::to_string(s.weekNumber) + " " + std::to_string(s.secondWeekNumber) + " " +
+         std::to_string(s.rows);
+}
+
+std::string Key() {
+  char* key = GetConfigKey();
+  std::string copy = key;
+  std::free(key);
+  return copy;
+}
+
+class Exports : public testing::Test {
+ protected:
+  CaptureStdout m_output;
+};
+
+TEST_F(Exports, AddWraps) {
+  EXPECT_EQ(native_add(2, 3), 5);
+  EXPECT_EQ(native_add(2147483647, 0), 2147483647);
+  EXPECT_EQ(native_add(2147483647, 1), -2147483648LL);
+  EXPECT_EQ(native_add(kMin, -1), kMax);
+  EXPECT_EQ(native_add(kMin, kMin), 0);
+}
+
+TEST_F(Exports, CreatedDateIsAsGiven) {
+  EXPECT_EQ(Text(CreateSolarDate(2024, 2, 30, 9)), "2024-2-30 (9)");
+  EXPECT_EQ(Text(CreateSolarDate(kMin, kMax, -1, 0)), "-2147483648-2147483647--1 (0)");
+}
+
+TEST_F(Exports, FreshEngineIsEmpty) {
+  EXPECT_EQ(GetContentRows(), 0);
+  EXPECT_EQ(GetContentColumns(), 0);
+  EXPECT_EQ(GetWeekNumberCount(), 0);
+  EXPECT_EQ(Text(GetContentDate()), "0-0-0 (0)");
+  EXPECT_FALSE(IsTodayInBoard());
+  EXPECT_EQ(Text(GetContentItem(0, 0)), "0 0 0 0 -1 0 0 1");
+  EXPECT_EQ(Text(GetWeekNumberItemWithIndex(0)), "0 0 0");
+  EXPECT_EQ(GetCalendarWeekByColumns(0), 1);
+  EXPECT_EQ(m_output.Take(), "");
+}
+
+TEST_F(Exports, FreshEngineHasTheDefaultOptions) {
+  EXPECT_EQ(GetDispMonth(), 1);
+  EXPECT_EQ(GetMaxRow(), 5);
+  EXPECT_EQ(GetPassedWeeks(), 1);
+  EXPECT_EQ(GetStartDayOfWeek(), 1);
+  EXPECT_EQ(GetStartWeekNumber(), 1);
+  EXPECT_FALSE(GetHideBreakDay());
+  EXPECT_FALSE(GetShowMonthInterval());
+  EXPECT_TRUE(GetShowBreakDayOfWeek());
+  EXPECT_EQ(GetWeekNumberCalcType(), 1);
+  for (int day = 0; day < 7; ++day) {
+    EXPECT_EQ(IsBreakDayOfWeek(day), day == 0 || day == 6);
+  }
+  EXPECT_EQ(Key(), kDefaultKey);
+}
+
+TEST_F(Exports, IntSettersStoreWhateverTheyAreGiven) {
+  struct {
+    void (*set)(std::int32_t);
+    std::int32_t (*get)();
+  } const options[] = {{SetDispMonth, GetDispMonth},
+                       {SetMaxRow, GetMaxRow},
+                       {SetPassedWeeks, GetPassedWeeks},
+                       {SetStartDayOfWeek, GetStartDayOfWeek},
+                       {SetStartWeekNumber, GetStartWeekNumber},
+                       {SetWeekNumberCalcType, GetWeekNumberCalcType}};
+  for (const auto& option : options) {
+    for (const std::int32_t value : {0, 1, 3, -7, 60, kMin, kMax}) {
+      option.set(value);
+      EXPECT_EQ(option.get(), value);
+    }
+  }
+  EXPECT_EQ(Key(),
+            "2147483647-2147483647-7-2147483647-2147483647-2147483647-0-2147483647-1-"
+            "(0-0-0-0-0-1-1)-1");
+}
+
+TEST_F(Exports, FlagsAreStored) {
+  SetHideBreakDay(true);
+  EXPECT_TRUE(GetHideBreakDay());
+  EXPECT_EQ(Key(), "1-5-7-1-1-1-1-1-1-(0-0-0-0-0-1-1)-1");
+  SetHideBreakDay(false);
+  EXPECT_FALSE(GetHideBreakDay());
+  SetShowBreakDayOfWeek(false);
+  EXPECT_FALSE(GetShowBreakDayOfWeek());
+  EXPECT_EQ(Key(), "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-0");
+  SetShowBreakDayOfWeek(true);
+  EXPECT_TRUE(GetShowBreakDayOfWeek());
+}
+
+TEST_F(Exports, ShowMonthIntervalAnswersWithTheHideBreakDayFlag) {
+  SetShowMonthInterval(false);
+  SetHideBreakDay(true);
+  EXPECT_TRUE(GetShowMonthInterval());
+  EXPECT_EQ(Key(), "1-5-7-1-1-1-1-1-0-(0-0-0-0-0-1-1)-1");
+  SetShowMonthInterval(true);
+  SetHideBreakDay(false);
+  EXPECT_FALSE(GetShowMonthInterval());
+  EXPECT_EQ(Key(), kDefaultKey);
+}
+
+TEST_F(Exports, BreakDays) {
+  SetBreakDayOfWeek(3, true);
+  EXPECT_TRUE(IsBreakDayOfWeek(3));
+  SetBreakDayOfWeek(6, false);
+  EXPECT_FALSE(IsBreakDayOfWeek(6));
+  EXPECT_EQ(Key(), "1-5-7-1-1-1-0-1-1-(0-0-1-0-0-0-1)-1");
+  for (const std::int32_t day : {-1, 7, kMin, kMax}) {
+    SetBreakDayOfWeek(day, true);
+    EXPECT_FALSE(IsBreakDayOfWeek(day));
+  }
+  EXPECT_EQ(Key(), "1-5-7-1-1-1-0-1-1-(0-0-1-0-0-0-1)-1");
+}
+
+TEST_F(Exports, ConfigKeyIsANewTextEachTime) {
+  char* first = GetConfigKey();
+  char* second = GetConfigKey();
+  EXPECT_NE(first, second);
+  EXPECT_STREQ(first, second);
+  first[0] = '9';  // the caller's own
+  EXPECT_STREQ(second, kDefaultKey);
+  std::free(first);
+  std::free(second);
+}
+
+TEST_F(Exports, SettersNeverRebuild) {
+  InitCalendarLogicDt(eLanguageEng);
+  m_output.Take();
+  SetMaxRow(2);
+  SetDispMonth(3);
+  SetStartDayOfWeek(0);
+  SetShowBreakDayOfWeek(false);
+  EXPECT_EQ(GetContentRows(), 5);
+  EXPECT_EQ(GetContentColumns(), 7);
+  EXPECT_EQ(m_output.Take(), "");
+}
+
+TEST_F(Exports, TodayAsksTheClock) {
+  EXPECT_EQ(Text(GetToday()), "2024-3-13 (3)");
+  EXPECT_EQ(m_output.Take(), "");
+}
+
+TEST_F(Exports, InitBuildsTheBoardAroundToday) {
+  for (const ELanguage language : std::vector<ELanguage>{8, 1, 7, 0, -5, kMin}) {
+    InitCalendarLogicDt(language);
+    EXPECT_EQ(GetContentRows(), 5);
+    EXPECT_EQ(GetContentColumns(), 7);
+    EXPECT_EQ(Text(GetContentDate()), "2024-3-13 (0)");
+    EXPECT_TRUE(IsTodayInBoard());
+  }
+}
+
+TEST_F(Exports, CellsHaveTheirEightFields) {
+  InitCalendarLogicDt(eLanguageEng);
+  EXPECT_EQ(Text(GetContentItem(0, 0)), "2024 3 4 1 10 0 0 3");
+  EXPECT_EQ(Text(GetContentItem(1, 2)), "2024 3 13 3 11 1 2 4");
+  EXPECT_EQ(Text(GetContentItem(3, 6)), "2024 3 31 0 13 3 6 5");
+  EXPECT_EQ(Text(GetContentItem(4, 0)), "0 4 1 0 -1 4 0 7");
+  EXPECT_EQ(Text(GetContentItem(4, 1)), "0 0 0 0 -1 4 1 2");
+  for (const std::int32_t outside : {-1, 7, kMin, kMax}) {
+    EXPECT_EQ(Text(GetContentItem(0, outside)), "0 0 0 0 -1 0 0 1");
+    EXPECT_EQ(Text(GetContentItem(outside, 0)), "0 0 0 0 -1 0 0 1");
+  }
+}
+
+TEST_F(Exports, SpansHaveTheirThreeFields) {
+  InitCalendarLogicDt(eLanguageEng);
+  ASSERT_EQ(GetWeekNumberCount(), 4);
+  EXPECT_EQ(Text(GetWeekNumberItemWithIndex(0)), "10 0 1");
+  EXPECT_EQ(Text(GetWeekNumberItemWithIndex(3)), "13 0 2");
+  for (const std::int32_t outside : {-1, 4, kMin, kMax}) {
+    EXPECT_EQ(Text(GetWeekNumberItemWithIndex(outside)), "0 0 0");
+  }
+  SetStartDayOfWeek(6);
+  SetShowMonthInterval(false);
+  Build();
+  EXPECT_EQ(Text(GetWeekNumberItemWithIndex(0)), "9 10 1");
+}
+
+TEST_F(Exports, Headings) {
+  InitCalendarLogicDt(eLanguageEng);
+  for (std::int32_t column = 0; column < 7; ++column) {
+    EXPECT_EQ(GetCalendarWeekByColumns(column), (column + 1) % 7);
+  }
+  for (const std::int32_t column : {-1, 7, kMin, kMax}) {
+    EXPECT_EQ(GetCalendarWeekByColumns(column), 0);
+  }
+}
+
+TEST_F(Exports, Navigation) {
+  InitCalendarLogicDt(eLanguageEng);
+  GotoNextPage();
+  EXPECT_EQ(Text(GetContentDate()), "2024-4-1 (0)");
+  EXPECT_FALSE(IsTodayInBoard());
+  GotoPreviousPage();
+  EXPECT_EQ(Text(GetContentDate()), "2024-3-31 (0)");
+  EXPECT_TRUE(IsTodayInBoard());
+  GotoSpecifiedDate(2023, 2, 31);
+  EXPECT_EQ(Text(GetContentDate()), "2023-2-31 (0)");
+  GotoSpecifiedDate(2023, 2, 32);
+  EXPECT_EQ(Text(GetContentDate()), "2023-2-31 (0)");
+  GotoTodayOffset(1);
+  EXPECT_EQ(Text(GetContentDate()), "2024-4-17 (0)");
+  GotoToday();
+  EXPECT_EQ(Text(GetContentDate()), "2024-3-13 (0)");
+  GotoSpecifiedDate(2025, 1, 1);
+  Build();
+  EXPECT_EQ(Text(GetContentDate()), "2024-3-13 (0)");
+}
+
+TEST_F(Exports, RollingTailAfterPagingHasNoRows) {
+  InitCalendarLogicDt(eLanguageEng);
+  GotoNextPage();
+  SetDispMonth(eDispMonthRollingTail);
+  GotoNextPage();
+  EXPECT_EQ(GetContentRows(), 0);
+  EXPECT_EQ(GetWeekNumberCount(), 0);
+  GotoToday();
+  EXPECT_EQ(GetContentRows(), 5);
+}
+
+TEST_F(Exports, BoardAndTraceAreWrittenInOrder) {
+  SetDispMonth(eDispMonthDayStrip);
+  SetMaxRow(1);
+  const std::string strip =
+      "\n\n\n\n\nweeknumber = 11\t(5)2024-03-10\t(3)2024-03-11\t(3)2024-03-12\t(4)2024-03-13"
+      "\t(3)2024-03-14\t(3)2024-03-15\t(5)2024-03-16\n\n\n\n\n\n";
+  InitCalendarLogicDt(eLanguageEng);
+  EXPECT_EQ(m_output.Take(), strip);
+  GotoTodayOffset(0);
+  GotoSpecifiedDate(1899, 12, 31);
+  std::fputs("host", stdout);
+  GotoToday();
+  EXPECT_EQ(m_output.Take(), "build-logic 2024-3-13" + strip + strip + "host" + strip);
+}
+
+TEST_F(Exports, NavigationBeforeTheFirstBuildWritesAnEmptyBoard) {
+  GotoNextPage();
+  EXPECT_EQ(m_output.Take(), "\n\n\n\n\n\n\n\n\n\n");
+  EXPECT_EQ(GetContentRows(), 0);
+}
+
+TEST_F(Exports, SixtyRowsShowFifty) {
+  SetMaxRow(60);
+  InitCalendarLogicDt(eLanguageEng);
+  EXPECT_EQ(GetContentRows(), 50);
+  EXPECT_EQ(Text(GetContentItem(50, 0)), "0 0 0 0 -1 0 0 1");
+}
+
+// The engine outlives every object of the host: it is never destroyed.
+struct CallsAtExit {
+  CallsAtExit() { SetMaxRow(3); }
+  CallsAtExit(const CallsAtExit&) = delete;
+  CallsAtExit& operator=(const CallsAtExit&) = delete;
+  ~CallsAtExit() {
+    GotoToday();
+    if (GetContentRows() != 3) {
+      std::fputs("the board is gone\n", stderr);
+      std::_Exit(4);
+    }
+  }
+};
+
+TEST(ExportsDeathTest, HostMayCallWhileTheProcessEnds) {
+  EXPECT_EXIT(
+      {
+        static const CallsAtExit calls;
+        std::exit(0);
+      },
+      testing::ExitedWithCode(0), "");
+}
+
+// It is there before the host's first line: the load has made it.
+const std::int32_t g_rowsBeforeMain = GetMaxRow();
+
+TEST_F(Exports, EngineExistsBeforeTheHostsOwnInitialisers) { EXPECT_EQ(g_rowsBeforeMain, 5); }
+
+}  // namespace

@@ -1,0 +1,749 @@
+// SPDX-License-Identifier: MIT
+//
+// The content of boards. A row is written as its week number and its cells: "5" a day, "5b" a break
+// day, "5*" today, "5*b" today on a break day, "(5)" a hidden day, "[3]" the title of March, "." a
+// filler and "-" an empty cell.
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "support/board.h"
+#include "support/clock.h"
+#include "support/zone.h"
+
+using almara_test::Board;
+using almara_test::ScopedZone;
+using almara_test::SetToday;
+
+namespace {
+
+constexpr int kMin = std::numeric_limits<int>::min();
+constexpr int kMax = std::numeric_limits<int>::max();
+
+using Texts = std::vector<std::string>;
+
+std::string Text(const CCalendarItem& item) {
+  const CCalendarSolarDate& date = item.GetDate();
+  const std::string day = std::to_string(date.day);
+  switch (item.GetType()) {
+    case 1:
+      return "-";
+    case 2:
+      return date.year != 0 ? "(" + day + ")" : ".";
+    case 3:
+      return day;
+    case 4:
+      return day + "*";
+    case 5:
+      return day + "b";
+    case 6:
+      return day + "*b";
+    case 7:
+      return "[" + std::to_string(date.month) + "]";
+    default:
+      return "?";
+  }
+}
+
+std::string Text(const tagCalendarRow& row) {
+  std::string text = std::to_string(row.weekNumber) + " |";
+  for (const CCalendarItem& item : row.items) {
+    text += " " + Text(item);
+  }
+  return text;
+}
+
+Texts Rows(const Board& board) {
+  Texts texts;
+  for (const tagCalendarRow& row : board.m_rows) {
+    texts.push_back(Text(row));
+  }
+  return texts;
+}
+
+std::string Date(const CCalendarItem& item) {
+  const CCalendarSolarDate& d = item.GetDate();
+  return std::to_string(d.year) + "-" + std::to_string(d.month) + "-" + std::to_string(d.day);
+}
+
+class BoardContent : public testing::Test {
+ protected:
+  BoardContent() { SetToday(2030, 7, 17); }
+
+  Texts Build(int year, int month, int day, EPageDirection direction = ePageDirectionNone) {
+    m_board.m_pageDirection = direction;
+    EXPECT_EQ(m_board.BuildQuietly(year, month, day), 1);
+    return Rows(m_board);
+  }
+
+  Board m_board;
+};
+
+TEST_F(BoardContent, DefaultBoardAroundAWednesday) {
+  SetToday(2024, 3, 13);
+  EXPECT_EQ(Build(2024, 3, 13), (Texts{"10 | 4 5 6 7 8 9b 10b", "11 | 11 12 13* 14 15 16b 17b",
+                                       "12 | 18 19 20 21 22 23b 24b", "13 | 25 26 27 28 29 30b 31b",
+                                       "13 | [4] . . . . . ."}));
+  EXPECT_EQ(Date(m_board.m_firstDateItem), "2024-3-4");
+  EXPECT_EQ(Date(m_board.m_lastDateItem), "2024-3-31");
+}
+
+TEST_F(BoardContent, WithoutIntervalsTheDefaultBoardEndsSevenDaysLater) {
+  m_board.SetShowMonthInterval(false);
+  EXPECT_EQ(Build(2024, 3, 13), (Texts{"10 | 4 5 6 7 8 9b 10b", "11 | 11 12 13 14 15 16b 17b",
+                                       "12 | 18 19 20 21 22 23b 24b", "13 | 25 26 27 28 29 30b 31b",
+                                       "14 | 1 2 3 4 5 6b 7b"}));
+  EXPECT_EQ(Date(m_board.m_lastDateItem), "2024-4-7");
+}
+
+TEST_F(BoardContent, BandKeepsTheColumnOfTheMonthThatBegins) {
+  EXPECT_EQ(Build(2024, 2, 28),
+            (Texts{"8 | 19 20 21 22 23 24b 25b", "9 | 26 27 28 29 [3] . .", "9 | . . . . 1 2b 3b",
+                   "10 | 4 5 6 7 8 9b 10b", "11 | 11 12 13 14 15 16b 17b"}));
+  const CCalendarItem& title = m_board.Cell(1, 4);
+  EXPECT_EQ(title.GetDay(), "(7)0000-03-01");
+  EXPECT_EQ(title.GetDate().dayOfWeek, 0);
+  EXPECT_EQ(title.GetWeekNumber(), -1);
+  const CCalendarItem& filler = m_board.Cell(1, 5);
+  EXPECT_EQ(filler.GetDay(), "(2)0000-00-00");
+  EXPECT_EQ(filler.GetWeekNumber(), -1);
+}
+
+TEST_F(BoardContent, EveryCellKnowsItsRowAndColumn) {
+  Build(2024, 2, 28);
+  for (std::size_t row = 0; row < 5; ++row) {
+    for (std::size_t column = 0; column < 7; ++column) {
+      EXPECT_EQ(m_board.Cell(row, column).GetRow(), static_cast<int>(row));
+      EXPECT_EQ(m_board.Cell(row, column).GetColumn(), static_cast<int>(column));
+    }
+  }
+}
+
+TEST_F(BoardContent, PassedWeeksOpenTheBoard) {
+  m_board.SetShowMonthInterval(false);
+  struct {
+    int passed;
+    const char* first;
+    const char* last;
+  } const cases[] = {
+      {0, "2024-3-11", "2024-4-14"}, {1, "2024-3-4", "2024-4-7"}, {4, "2024-2-12", "2024-3-17"},
+      {5, "2024-2-5", "2024-3-10"},  // the week of the focus lies behind the last row
+      {6, "2024-1-29", "2024-3-3"},
+  };
+  for (const auto& c : cases) {
+    m_board.SetPassedWeeks(c.passed);
+    EXPECT_EQ(Build(2024, 3, 13).size(), 5U);
+    EXPECT_EQ(Date(m_board.m_firstDateItem), c.first) << c.passed;
+    EXPECT_EQ(Date(m_board.m_lastDateItem), c.last) << c.passed;
+  }
+}
+
+// Nothing is listed before it, so that it leaves its weekday's column.
+TEST_F(BoardContent, NegativePassedWeeksPutTheFocusDateFirst) {
+  m_board.SetShowMonthInterval(false);
+  m_board.SetPassedWeeks(-1);
+  EXPECT_EQ(Build(2024, 3, 13), (Texts{"12 | 13 14 15 16b 17b 18 19", "13 | 20 21 22 23b 24b 25 26",
+                                       "14 | 27 28 29 30b 31b 1 2", "15 | 3 4 5 6b 7b 8 9",
+                                       "16 | 10 11 12 13b 14b 15 16"}));
+}
+
+TEST_F(BoardContent, RowsOfRollingWeeks) {
+  for (const int rows : {1, 5, 6, 8, 60}) {
+    m_board.SetMaxRows(rows);
+    EXPECT_EQ(Build(2024, 3, 13).size(), static_cast<std::size_t>(rows));
+    EXPECT_EQ(m_board.Cell(0, 0).GetDay(), "(3)2024-03-04");
+  }
+  for (const int rows : {0, -1, -2, -60, kMin, kMin + 1}) {
+    m_board.SetMaxRows(rows);
+    for (const EPageDirection direction :
+         {ePageDirectionNone, ePageDirectionBackward, ePageDirectionForward}) {
+      EXPECT_EQ(Build(2024, 3, 13, direction).size(), 0U) << rows;
+    }
+  }
+}
+
+TEST_F(BoardContent, EveryStartDayOfWeekPutsTheFocusIntoItsColumn) {
+  m_board.SetShowMonthInterval(false);
+  for (int start = 0; start <= 6; ++start) {
+    m_board.SetStartDayOfWeek(start);
+    Build(2024, 3, 13);  // a Wednesday
+    const auto column = static_cast<std::size_t>((3 - start + 7) % 7);
+    EXPECT_EQ(m_board.Cell(1, column).GetDay(), "(3)2024-03-13") << start;
+  }
+}
+
+TEST_F(BoardContent, StartDayOfWeekOutsideTheWeekLaysOutFromMonday) {
+  for (const int start : {7, -1, 8, 100, kMin, kMax}) {
+    m_board.SetStartDayOfWeek(start);
+    Build(2024, 3, 13);
+    EXPECT_EQ(m_board.Cell(1, 2).GetDay(), "(3)2024-03-13") << start;
+  }
+}
+
+TEST_F(BoardContent, ColumnOfAWeekday) {
+  for (int start = 0; start <= 6; ++start) {
+    for (int k = 0; k <= 6; ++k) {
+      EXPECT_EQ(CCalendarLogicBuild::_GetColumnIndexByDayOfWeek(start, (start + k) % 7), k);
+    }
+  }
+  for (const int start : {-1, 7, kMin, kMax}) {
+    EXPECT_EQ(CCalendarLogicBuild::_GetColumnIndexByDayOfWeek(start, 1), 0);
+    EXPECT_EQ(CCalendarLogicBuild::_GetColumnIndexByDayOfWeek(start, 0), 6);
+  }
+  for (const int day : {-1, 7, kMin, kMax}) {
+    EXPECT_EQ(CCalendarLogicBuild::_GetColumnIndexByDayOfWeek(1, day), -1);
+  }
+}
+
+TEST_F(BoardContent, PagedBackwardTheFocusWeekIsTheLastRow) {
+  EXPECT_EQ(
+      Build(2024, 3, 3, ePageDirectionBackward),
+      (Texts{"6 | 5 6 7 8 9 10b 11b", "7 | 12 13 14 15 16 17b 18b", "8 | 19 20 21 22 23 24b 25b",
+             "9 | 26 27 28 29 [3] . .", "9 | . . . . 1 2b 3b"}));
+  EXPECT_EQ(Build(2024, 2, 28, ePageDirectionBackward),
+            (Texts{"5 | . . . 1 2 3b 4b", "6 | 5 6 7 8 9 10b 11b", "7 | 12 13 14 15 16 17b 18b",
+                   "8 | 19 20 21 22 23 24b 25b", "9 | 26 27 28 29 [3] . ."}));
+}
+
+TEST_F(BoardContent, PagedForwardTheFocusWeekIsTheFirstRow) {
+  EXPECT_EQ(Build(2024, 3, 25, ePageDirectionForward),
+            (Texts{"13 | 25 26 27 28 29 30b 31b", "13 | [4] . . . . . .", "14 | 1 2 3 4 5 6b 7b",
+                   "15 | 8 9 10 11 12 13b 14b", "16 | 15 16 17 18 19 20b 21b"}));
+}
+
+TEST_F(BoardContent, PagedForwardTheDaysOfTheWeekBeforeTheFocusAreHidden) {
+  EXPECT_EQ(
+      Build(2024, 3, 27, ePageDirectionForward),
+      (Texts{"13 | (25) (26) 27 28 29 30b 31b", "13 | [4] . . . . . .", "14 | 1 2 3 4 5 6b 7b",
+             "15 | 8 9 10 11 12 13b 14b", "16 | 15 16 17 18 19 20b 21b"}));
+  EXPECT_EQ(Date(m_board.m_firstDateItem), "2024-3-27");
+}
+
+TEST_F(BoardContent, PagedForwardWithoutIntervalsTheyAreShown) {
+  m_board.SetShowMonthInterval(false);
+  EXPECT_EQ(
+      Build(2024, 3, 27, ePageDirectionForward),
+      (Texts{"13 | 25 26 27 28 29 30b 31b", "14 | 1 2 3 4 5 6b 7b", "15 | 8 9 10 11 12 13b 14b",
+             "16 | 15 16 17 18 19 20b 21b", "17 | 22 23 24 25 26 27b 28b"}));
+  EXPECT_EQ(Date(m_board.m_firstDateItem), "2024-3-25");
+}
+
+// The hidden 1st of a month brings no band, wherever it stands.
+TEST_F(BoardContent, HiddenFirstDayBringsNoBand) {
+  EXPECT_EQ(Build(2024, 3, 2, ePageDirectionForward)[0], "9 | (26) (27) (28) (29) (1) 2b 3b");
+}
+
+// 2024-02-31 is looked for as it was passed and not found, so that the bands push it off the board.
+TEST_F(BoardContent, FocusThatTheMonthLacksLeavesItsBandsUncut) {
+  EXPECT_EQ(Build(2024, 2, 31, ePageDirectionBackward),
+            (Texts{"5 | 29 30 31 [2] . . .", "5 | . . . 1 2 3b 4b", "6 | 5 6 7 8 9 10b 11b",
+                   "7 | 12 13 14 15 16 17b 18b", "8 | 19 20 21 22 23 24b 25b"}));
+  EXPECT_EQ(Build(2024, 3, 2, ePageDirectionBackward)[0], "6 | 5 6 7 8 9 10b 11b");
+}
+
+TEST_F(BoardContent, RollingTailShowsTheMonthFromItsFirstWeek) {
+  m_board.SetDispMonth(eDispMonthRollingTail);
+  const Texts march = {"9 | (26) (27) (28) (29) 1 2b 3b", "10 | 4 5 6 7 8 9b 10b",
+                       "11 | 11 12 13 14 15 16b 17b", "12 | 18 19 20 21 22 23b 24b",
+                       "13 | 25 26 27 28 29 30b 31b"};
+  for (const int day : {1, 13, 31}) {
+    EXPECT_EQ(Build(2024, 3, day), march) << day;
+  }
+}
+
+TEST_F(BoardContent, RollingTailRunsOnIntoTheNextMonth) {
+  m_board.SetDispMonth(eDispMonthRollingTail);
+  m_board.SetMaxRows(6);
+  EXPECT_EQ(Build(2024, 3, 13)[5], "13 | [4] . . . . . .");
+  m_board.SetMaxRows(8);
+  const Texts rows = Build(2024, 3, 13);
+  ASSERT_EQ(rows.size(), 8U);
+  EXPECT_EQ(rows[6], "14 | 1 2 3 4 5 6b 7b");
+  EXPECT_EQ(rows[7], "15 | 8 9 10 11 12 13b 14b");
+}
+
+TEST_F(BoardContent, RollingTailReachesTheWeekOfTheFocusWhateverTheRows) {
+  m_board.SetDispMonth(eDispMonthRollingTail);
+  struct {
+    int rows, day;
+    std::size_t built;
+  } const cases[] = {{1, 1, 1},   {1, 3, 1},  {1, 4, 2},  // the Monday opens row 2
+                     {1, 10, 2},  {1, 11, 3}, {1, 31, 5}, {0, 13, 3},
+                     {-9, 13, 3}, {3, 13, 3}, {4, 13, 4}, {2, 31, 5}};
+  for (const auto& c : cases) {
+    m_board.SetMaxRows(c.rows);
+    EXPECT_EQ(Build(2024, 3, c.day).size(), c.built) << c.rows << " rows, day " << c.day;
+  }
+}
+
+// The row of the focus date is rounded up in single precision, the rows of a whole month in double:
+// all combinations give whole rows.
+TEST_F(BoardContent, RowOfTheFocusIsRoundedUpForEveryDayAndColumn) {
+  m_board.SetDispMonth(eDispMonthRollingTail);
+  m_board.SetMaxRows(1);
+  for (int start = 0; start <= 6; ++start) {
+    m_board.SetStartDayOfWeek(start);
+    const int columnOfFirst = (5 - start + 7) % 7;  // 1 March 2024 is a Friday
+    for (int day = 1; day <= 31; ++day) {
+      EXPECT_EQ(Build(2024, 3, day).size(), static_cast<std::size_t>((columnOfFirst + day + 6) / 7))
+          << start << ' ' << day;
+    }
+  }
+}
+
+TEST_F(BoardContent, RollingTailWithoutIntervalsShowsTheDaysBefore) {
+  m_board.SetDispMonth(eDispMonthRollingTail);
+  m_board.SetShowMonthInterval(false);
+  EXPECT_EQ(Build(2024, 3, 13)[0], "9 | 26 27 28 29 1 2b 3b");
+}
+
+TEST_F(BoardContent, RollingTailWithAPageDirectionHasNoRows) {
+  m_board.SetDispMonth(eDispMonthRollingTail);
+  for (const EPageDirection direction : {ePageDirectionBackward, ePageDirectionForward}) {
+    SetToday(2024, 3, 13);
+    EXPECT_EQ(Build(2024, 3, 13, direction), Texts{});
+    EXPECT_FALSE(m_board.m_todayOnBoard);
+    EXPECT_EQ(m_board.m_todayColumn, -1);
+    EXPECT_EQ(m_board.m_firstDateItem.GetType(), 1);
+    EXPECT_EQ(m_board.m_lastDateItem.GetType(), 1);
+    EXPECT_EQ(m_board.m_visibleRowCount, 0);
+  }
+}
+
+TEST_F(BoardContent, WholeMonthHidesTheDaysBeforeIt) {
+  m_board.SetDispMonth(eDispMonthWholeMonth);
+  EXPECT_EQ(Build(2024, 3, 13), (Texts{"9 | (26) (27) (28) (29) 1 2b 3b", "10 | 4 5 6 7 8 9b 10b",
+                                       "11 | 11 12 13 14 15 16b 17b", "12 | 18 19 20 21 22 23b 24b",
+                                       "13 | 25 26 27 28 29 30b 31b"}));
+  const CCalendarItem& hidden = m_board.Cell(0, 1);
+  EXPECT_EQ(hidden.GetDay(), "(2)2024-02-27");
+  EXPECT_EQ(hidden.GetDate().dayOfWeek, 0);  // a Tuesday
+  EXPECT_EQ(hidden.GetWeekNumber(), 9);
+  EXPECT_EQ(Date(m_board.m_firstDateItem), "2024-3-1");
+}
+
+TEST_F(BoardContent, WholeMonthWithoutIntervalsShowsTheDaysBeforeIt) {
+  m_board.SetDispMonth(eDispMonthWholeMonth);
+  m_board.SetShowMonthInterval(false);
+  EXPECT_EQ(Build(2024, 3, 13)[0], "9 | 26 27 28 29 1 2b 3b");
+  EXPECT_EQ(m_board.Cell(0, 1).GetDate().dayOfWeek, 2);
+}
+
+TEST_F(BoardContent, WholeMonthThatBeginsInColumn0HasNoLeadingDays) {
+  m_board.SetDispMonth(eDispMonthWholeMonth);
+  const Texts april = Build(2024, 4, 15);
+  ASSERT_EQ(april.size(), 5U);
+  EXPECT_EQ(april[0], "14 | 1 2 3 4 5 6b 7b");
+  EXPECT_EQ(april[4], "18 | 29 30 [5] . . . .");
+}
+
+TEST_F(BoardContent, DaysBehindTheMonthAreNeverHidden) {
+  m_board.SetDispMonth(eDispMonthWholeMonth);
+  m_board.SetShowMonthInterval(false);
+  EXPECT_EQ(Build(2024, 4, 15)[4], "18 | 29 30 1 2 3 4b 5b");
+}
+
+TEST_F(BoardContent, RowsOfWholeMonths) {
+  m_board.SetDispMonth(eDispMonthWholeMonth);
+  struct {
+    int year, month, start;
+    std::size_t rows;
+  } const cases[] = {{2021, 2, 1, 4},   // 28 days from a Monday
+                     {2021, 2, 0, 5},   //
+                     {2024, 4, 1, 5},   //
+                     {2024, 9, 1, 6},   // 30 days from a Sunday
+                     {2024, 9, 0, 5},   //
+                     {2024, 12, 1, 6},  // 31 days from a Sunday
+                     {2023, 10, 1, 6},  //
+                     {2024, 6, 1, 5},   // 30 days from a Saturday: 35 cells
+                     {2024, 3, 1, 5},   // 31 days from a Friday: 35 cells
+                     {2026, 2, 0, 4},   // 28 days from a Sunday
+                     {1900, 1, 1, 5},   //
+                     {2099, 12, 1, 5}};
+  for (const auto& c : cases) {
+    m_board.SetStartDayOfWeek(c.start);
+    for (const int day : {1, 15, 28}) {
+      for (const EPageDirection direction :
+           {ePageDirectionNone, ePageDirectionBackward, ePageDirectionForward}) {
+        EXPECT_EQ(Build(c.year, c.month, day, direction).size(), c.rows)
+            << c.year << '-' << c.month << ' ' << c.start;
+      }
+    }
+  }
+}
+
+TEST_F(BoardContent, RowsOfAWholeMonthDoNotDependOnMaxRows) {
+  m_board.SetDispMonth(eDispMonthWholeMonth);
+  for (const int rows : {0, 1, 60, -5, kMin, kMax}) {
+    m_board.SetMaxRows(rows);
+    EXPECT_EQ(Build(2024, 3, 13).size(), 5U) << rows;
+  }
+}
+
+// The page direction that an earlier command left is in force here too.
+TEST_F(BoardContent, WholeMonthWithDirectionBackwardLosesItsFirstWeek) {
+  m_board.SetDispMonth(eDispMonthWholeMonth);
+  EXPECT_EQ(
+      Build(2024, 4, 1, ePageDirectionBackward),
+      (Texts{"15 | 8 9 10 11 12 13b 14b", "16 | 15 16 17 18 19 20b 21b",
+             "17 | 22 23 24 25 26 27b 28b", "18 | 29 30 [5] . . . .", "18 | . . 1 2 3 4b 5b"}));
+}
+
+TEST_F(BoardContent, WholeMonthWithDirectionForwardIsThePlainOne) {
+  m_board.SetDispMonth(eDispMonthWholeMonth);
+  for (const int day : {1, 15, 30}) {
+    EXPECT_EQ(Build(2024, 4, day, ePageDirectionForward), Build(2024, 4, day)) << day;
+  }
+  EXPECT_EQ(Build(2024, 1, 31, ePageDirectionForward), Build(2024, 1, 31));  // lists two bands
+}
+
+// On the 31st the list runs over two months' beginnings, and both bands are cut from the front.
+TEST_F(BoardContent, WholeMonthWithDirectionBackwardLosesARowForEachBandListed) {
+  m_board.SetDispMonth(eDispMonthWholeMonth);
+  EXPECT_EQ(Build(2024, 1, 31, ePageDirectionBackward)[0], "3 | 15 16 17 18 19 20b 21b");
+  EXPECT_EQ(Build(2024, 1, 1, ePageDirectionBackward)[0], "2 | 8 9 10 11 12 13b 14b");
+}
+
+TEST_F(BoardContent, StripHasTheFocusInItsMiddle) {
+  m_board.SetDispMonth(eDispMonthDayStrip);
+  SetToday(2024, 3, 13);
+  struct {
+    int columns;
+    const char* row;
+  } const cases[] = {{7, "11 | 10b 11 12 13* 14 15 16b"}, {6, "11 | 11 12 13* 14 15 16b -"},
+                     {5, "11 | 11 12 13* 14 15 - -"},     {4, "11 | 12 13* 14 15 - - -"},
+                     {3, "11 | 12 13* 14 - - - -"},       {2, "11 | 13* 14 - - - - -"},
+                     {1, "11 | 13* - - - - - -"}};
+  for (const auto& c : cases) {
+    m_board.SetMaxColumns(c.columns);
+    EXPECT_EQ(Build(2024, 3, 13), Texts{c.row}) << c.columns;
+  }
+}
+
+TEST_F(BoardContent, StripPagedForwardBeginsWithTheFocus) {
+  m_board.SetDispMonth(eDispMonthDayStrip);
+  EXPECT_EQ(Build(2024, 3, 13, ePageDirectionForward), Texts{"12 | 13 14 15 16b 17b 18 19"});
+  m_board.SetMaxColumns(3);
+  EXPECT_EQ(Build(2024, 3, 13, ePageDirectionForward), Texts{"11 | 13 14 15 - - - -"});
+}
+
+TEST_F(BoardContent, StripPagedBackwardEndsWithTheFocus) {
+  m_board.SetDispMonth(eDispMonthDayStrip);
+  EXPECT_EQ(Build(2024, 3, 13, ePageDirectionBackward), Texts{"11 | 7 8 9b 10b 11 12 13"});
+  m_board.SetMaxColumns(3);
+  EXPECT_EQ(Build(2024, 3, 13, ePageDirectionBackward), Texts{"11 | 11 12 13 - - - -"});
+}
+
+TEST_F(BoardContent, StripCrossesAMonthWithoutABand) {
+  m_board.SetDispMonth(eDispMonthDayStrip);
+  EXPECT_EQ(Build(2024, 2, 29), Texts{"9 | 26 27 28 29 1 2b 3b"});
+}
+
+TEST_F(BoardContent, AnyOtherModeIsAnEmptyBoard) {
+  Build(2024, 3, 13);  // leaves nothing behind
+  for (const int mode : {0, 5, -1, 100, kMin, kMax}) {
+    m_board.SetDispMonth(mode);
+    for (const EPageDirection direction :
+         {ePageDirectionNone, ePageDirectionBackward, ePageDirectionForward}) {
+      EXPECT_EQ(Build(2024, 3, 13, direction), Texts{}) << mode;
+      EXPECT_EQ(m_board.m_firstDateItem.GetDay(), "(1)0000-00-00");
+      EXPECT_EQ(m_board.m_lastDateItem.GetDay(), "(1)0000-00-00");
+    }
+  }
+}
+
+TEST_F(BoardContent, KindsOfDays) {
+  m_board.SetDispMonth(eDispMonthDayStrip);
+  m_board.SetBreakDayOfWeek(3, true);
+  m_board.SetBreakDayOfWeek(0, false);
+  SetToday(2024, 3, 13);
+  EXPECT_EQ(Build(2024, 3, 13), Texts{"11 | 10 11 12 13*b 14 15 16b"});
+  EXPECT_EQ(m_board.Cell(0, 3).GetType(), 6);
+  SetToday(2024, 3, 16);
+  EXPECT_EQ(Build(2024, 3, 13), Texts{"11 | 10 11 12 13b 14 15 16*b"});
+  SetToday(2024, 3, 11);
+  EXPECT_EQ(Build(2024, 3, 13), Texts{"11 | 10 11* 12 13b 14 15 16b"});
+  EXPECT_EQ(m_board.Cell(0, 1).GetType(), 4);
+}
+
+TEST_F(BoardContent, TodayIsNotedWithItsColumn) {
+  SetToday(2024, 3, 16);
+  Build(2024, 3, 13);
+  EXPECT_TRUE(m_board.m_todayOnBoard);
+  EXPECT_EQ(m_board.m_todayColumn, 5);
+  SetToday(2024, 3, 3);  // the day before the board
+  Build(2024, 3, 13);
+  EXPECT_FALSE(m_board.m_todayOnBoard);
+  EXPECT_EQ(m_board.m_todayColumn, -1);
+}
+
+TEST_F(BoardContent, TodayAmongTheHiddenDaysIsNotOnTheBoard) {
+  m_board.SetDispMonth(eDispMonthWholeMonth);
+  SetToday(2024, 2, 29);
+  EXPECT_EQ(Build(2024, 3, 13)[0], "9 | (26) (27) (28) (29) 1 2b 3b");
+  EXPECT_FALSE(m_board.m_todayOnBoard);
+  m_board.SetShowMonthInterval(false);
+  EXPECT_EQ(Build(2024, 3, 13)[0], "9 | 26 27 28 29* 1 2b 3b");
+  EXPECT_EQ(m_board.m_todayColumn, 3);
+}
+
+// They are copied before the cell has its week number.
+TEST_F(BoardContent, FirstAndLastDateItemsAreCells) {
+  Build(2024, 3, 13);
+  EXPECT_EQ(m_board.m_firstDateItem.GetDay(), "(3)2024-03-04");
+  EXPECT_EQ(m_board.m_firstDateItem.GetRow(), 0);
+  EXPECT_EQ(m_board.m_firstDateItem.GetColumn(), 0);
+  EXPECT_EQ(m_board.m_firstDateItem.GetWeekNumber(), -1);
+  EXPECT_EQ(m_board.m_lastDateItem.GetDay(), "(5)2024-03-31");
+  EXPECT_EQ(m_board.m_lastDateItem.GetRow(), 3);
+  EXPECT_EQ(m_board.m_lastDateItem.GetColumn(), 6);
+  EXPECT_EQ(m_board.m_lastDateItem.GetDate().dayOfWeek, 0);
+}
+
+struct Range {
+  int year, month, day;
+  bool accepted;
+};
+
+constexpr Range kRanges[] = {
+    {1900, 1, 1, true},        {1899, 12, 31, false}, {2099, 12, 31, true},
+    {2100, 1, 1, false},       {2024, 1, 5, true},    {2024, 0, 5, false},
+    {2024, 12, 5, true},       {2024, 13, 5, false},  {2024, 2, 1, true},
+    {2024, 2, 0, false},       {2024, 2, 31, true},   {2024, 2, 32, false},
+    {2024, -1, 5, false},      {2024, 2, -1, false},  {kMin, kMin, kMin, false},
+    {kMax, kMax, kMax, false}, {0, 0, 0, false},  // only the whole build takes it for today
+};
+
+TEST_F(BoardContent, DatesOutOfRangeAreRejectedAndLeaveEverything) {
+  SetToday(2024, 3, 13);
+  for (const Range& c : kRanges) {
+    SCOPED_TRACE(testing::Message() << c.year << '-' << c.month << '-' << c.day);
+    const Texts before = Build(2024, 3, 13);
+    ASSERT_EQ(m_board.BuildQuietly(c.year, c.month, c.day), c.accepted ? 1 : 0);
+    if (c.accepted) {
+      EXPECT_EQ(m_board.m_focusYear, c.year);
+      EXPECT_EQ(m_board.m_focusMonth, c.month);
+      EXPECT_EQ(m_board.m_focusDay, c.day);
+    } else {
+      EXPECT_EQ(Rows(m_board), before);
+      EXPECT_EQ(m_board.m_focusYear, 2024);
+      EXPECT_EQ(m_board.m_focusMonth, 3);
+      EXPECT_EQ(m_board.m_focusDay, 13);
+      EXPECT_TRUE(m_board.m_todayOnBoard);
+      EXPECT_EQ(m_board.m_todayColumn, 2);
+      EXPECT_EQ(Date(m_board.m_firstDateItem), "2024-3-4");
+      EXPECT_EQ(Date(m_board.m_lastDateItem), "2024-3-31");
+    }
+  }
+}
+
+TEST_F(BoardContent, DayThatTheMonthLacksCountsOnAndTheFocusStaysAsPassed) {
+  m_board.SetDispMonth(eDispMonthDayStrip);
+  EXPECT_EQ(Build(2023, 2, 31), Texts{"10 | 28 1 2 3 4b 5b 6"});
+  EXPECT_EQ(m_board.Cell(0, 3).GetDay(), "(3)2023-03-03");
+  EXPECT_EQ(m_board.m_focusYear, 2023);
+  EXPECT_EQ(m_board.m_focusMonth, 2);
+  EXPECT_EQ(m_board.m_focusDay, 31);
+}
+
+TEST_F(BoardContent, WholeMonthOfADayThatTheMonthLacksIsTheNextMonth) {
+  m_board.SetDispMonth(eDispMonthWholeMonth);
+  EXPECT_EQ(Build(2023, 2, 31), Build(2023, 3, 3));
+}
+
+TEST_F(BoardContent, EndsOfTheYearsRunOverIntoTheNextOnes) {
+  m_board.SetShowMonthInterval(false);
+  EXPECT_EQ(Build(1900, 1, 1),
+            (Texts{"0 | 25 26 27 28 29 30b 31b", "1 | 1 2 3 4 5 6b 7b", "2 | 8 9 10 11 12 13b 14b",
+                   "3 | 15 16 17 18 19 20b 21b", "4 | 22 23 24 25 26 27b 28b"}));
+  EXPECT_EQ(Date(m_board.m_firstDateItem), "1899-12-25");
+  EXPECT_EQ(m_board.Cell(0, 0).GetWeekNumber(), -1);  // no week numbers before 1900
+  EXPECT_EQ(Build(2099, 12, 31), (Texts{"52 | 21 22 23 24 25 26b 27b", "53 | 28 29 30 31 1 2b 3b",
+                                        "53 | 4 5 6 7 8 9b 10b", "53 | 11 12 13 14 15 16b 17b",
+                                        "53 | 18 19 20 21 22 23b 24b"}));
+  EXPECT_EQ(Date(m_board.m_lastDateItem), "2100-1-24");
+}
+
+TEST_F(BoardContent, RowWeekNumberIsThatOfItsLastDatedCell) {
+  m_board.SetStartDayOfWeek(0);
+  EXPECT_EQ(Build(2024, 3, 13)[0], "10 | 3b 4 5 6 7 8 9b");
+  EXPECT_EQ(m_board.Cell(0, 0).GetWeekNumber(), 9);
+  m_board.SetStartDayOfWeek(1);
+  EXPECT_EQ(Build(2024, 2, 28)[1], "9 | 26 27 28 29 [3] . .");
+}
+
+TEST_F(BoardContent, RowWithoutAWeekNumberRepeatsTheRowBefore) {
+  EXPECT_EQ(Build(2024, 3, 25, ePageDirectionForward)[1], "13 | [4] . . . . . .");
+}
+
+TEST_F(BoardContent, FirstRowWithoutAWeekNumberHas0) {
+  EXPECT_EQ(Build(2024, 4, 28, ePageDirectionBackward),
+            (Texts{"0 | [4] . . . . . .", "14 | 1 2 3 4 5 6b 7b", "15 | 8 9 10 11 12 13b 14b",
+                   "16 | 15 16 17 18 19 20b 21b", "17 | 22 23 24 25 26 27b 28b"}));
+}
+
+class ShownWeek : public BoardContent {
+ protected:
+  ShownWeek() {
+    SetToday(2024, 11, 20);
+    m_board.SetDispMonth(eDispMonthDayStrip);
+    m_board.SetMaxColumns(1);
+  }
+
+  int Of(int year, int month, int day, int startWeek, EWeekNumberCalc type) {
+    m_board.SetStartWeekNumber(startWeek);
+    m_board.SetWeekNumberCalcType(type);
+    Build(year, month, day);
+    return m_board.Cell(0, 0).GetWeekNumber();
+  }
+};
+
+TEST_F(ShownWeek, StartWeekReads1AndEarlierWeeksStay) {
+  EXPECT_EQ(Of(2024, 3, 4, 1, 1), 10);
+  EXPECT_EQ(Of(2024, 3, 4, 10, 1), 1);
+  EXPECT_EQ(Of(2024, 3, 11, 10, 1), 2);
+  EXPECT_EQ(Of(2024, 3, 3, 10, 1), 9);  // the week before
+  EXPECT_EQ(Of(2024, 3, 4, 0, 1), 11);
+  EXPECT_EQ(Of(2024, 3, 4, -3, 1), 14);
+  EXPECT_EQ(Of(2024, 3, 4, kMax, 1), 10);
+  EXPECT_EQ(Of(2024, 3, 4, kMin, 1), -2147483637);  // 10 + 1 + 2^31 wraps
+}
+
+TEST_F(ShownWeek, WeeksOfTheNextYearGoOnUnderType2) {
+  // 31 December 2025 is week 53, counted from 1 January.
+  EXPECT_EQ(Of(2025, 1, 1, 36, 2), 18);
+  EXPECT_EQ(Of(2024, 12, 31, 36, 2), 18);  // no added 1 behind the turn of the year: week 18 again
+  EXPECT_EQ(Of(2024, 12, 29, 36, 2), 17);
+  EXPECT_EQ(Of(2025, 2, 2, 36, 2), 22);  // week 5 lies more than 30 weeks before week 36
+  EXPECT_EQ(Of(2025, 2, 3, 36, 2), 6);   // week 6 does not
+  EXPECT_EQ(Of(2025, 2, 3, 37, 2), 22);
+  EXPECT_EQ(Of(2025, 1, 1, 31, 2), 1);  // 31 - 30 is not above week 1
+  EXPECT_EQ(Of(2025, 1, 1, 32, 2), 22);
+  EXPECT_EQ(Of(2025, 9, 1, 36, 2), 1);  // week 36
+}
+
+TEST_F(ShownWeek, WeeksOfTheNextYearGoOnUnderNoOtherType) {
+  for (const int type : {0, 1, 3, -1}) {
+    EXPECT_EQ(Of(2025, 1, 1, 36, type), 1) << type;
+  }
+}
+
+TEST_F(ShownWeek, OnlyTheYearBehindTodaysGoesOn) {
+  EXPECT_EQ(Of(2024, 1, 1, 36, 2), 1);
+  EXPECT_EQ(Of(2026, 1, 1, 36, 2), 1);
+  EXPECT_EQ(Of(2023, 1, 1, 36, 2), 1);
+  SetToday(2025, 1, 1);
+  EXPECT_EQ(Of(2025, 1, 1, 36, 2), 1);
+  EXPECT_EQ(Of(2026, 1, 1, 36, 2), 18);
+}
+
+TEST_F(ShownWeek, LastWeekIsThatOfTheCellsOwnYear) {
+  SetToday(2011, 11, 20);
+  EXPECT_EQ(Of(2012, 1, 2, 40, 2), 54 + 2 - 40);  // 2012 ends with week 54, 2011 with week 53
+}
+
+TEST_F(ShownWeek, TypesOutsideTheirRangeCountFrom1January) {
+  for (const int type : {0, 2, 3, -1, kMin, kMax}) {
+    EXPECT_EQ(Of(2021, 1, 1, 1, type), 1) << type;
+  }
+  EXPECT_EQ(Of(2021, 1, 1, 1, 1), 53);
+}
+
+TEST_F(ShownWeek, StartWeekOfMinus1OrLessNumbersUndatedCells) {
+  const auto undated = [this](int startWeek) {
+    Of(2024, 3, 4, startWeek, 1);
+    return m_board.Cell(0, 1).GetWeekNumber();
+  };
+  EXPECT_EQ(undated(1), -1);
+  EXPECT_EQ(undated(0), -1);
+  EXPECT_EQ(undated(-1), 1);
+  EXPECT_EQ(undated(-5), 5);
+}
+
+TEST_F(ShownWeek, UndatedCellsThatAreNumberedTakePartInTheSpans) {
+  m_board.SetStartWeekNumber(-1);
+  m_board.SetDispMonth(eDispMonthRollingWeeks);
+  m_board.SetMaxColumns(7);
+  EXPECT_EQ(Build(2024, 3, 13)[4], "1 | [4] . . . . . .");
+  ASSERT_EQ(m_board.GetWeekNumberCount(), 5);
+  EXPECT_EQ(m_board.GetWeekNumberItem(4).weekNumber, 1);
+  EXPECT_EQ(m_board.GetWeekNumberItem(4).cellsWithoutWeek, 0);
+}
+
+// 53 + 6 - 60: a number that says that there is none.
+TEST_F(ShownWeek, NumberThatComesOutAsMinus1IsNoneForTheRow) {
+  EXPECT_EQ(Of(2025, 2, 5, 60, 2), -1);
+  EXPECT_EQ(m_board.m_rows[0].weekNumber, 0);
+  EXPECT_EQ(Of(2025, 1, 29, 60, 2), -2);
+  EXPECT_EQ(m_board.m_rows[0].weekNumber, -2);
+}
+
+TEST_F(ShownWeek, HiddenDaysHaveTheirWeekNumbers) {
+  m_board.SetDispMonth(eDispMonthWholeMonth);
+  Build(2024, 3, 13);
+  EXPECT_EQ(m_board.Cell(0, 0).GetWeekNumber(), 9);
+}
+
+TEST_F(BoardContent, ContentOfTodayIsAPlainBuild) {
+  SetToday(2024, 3, 13);
+  m_board.m_pageDirection = ePageDirectionBackward;
+  EXPECT_EQ(m_board._BuildContentOfToday(m_board.m_rows), 1);
+  EXPECT_EQ(m_board.m_pageDirection, 0);
+  EXPECT_EQ(Rows(m_board)[1], "11 | 11 12 13* 14 15 16b 17b");
+}
+
+TEST_F(BoardContent, BuildFillsTheRowsThatItIsGiven) {
+  std::vector<tagCalendarRow> rows(3);
+  EXPECT_EQ(m_board._BuildContent(2024, 3, 13, rows), 1);
+  EXPECT_EQ(rows.size(), 5U);
+  EXPECT_TRUE(m_board.m_rows.empty());
+  EXPECT_EQ(m_board._BuildContent(1899, 3, 13, rows), 0);
+  EXPECT_EQ(rows.size(), 5U);
+}
+
+// Boards over the changes of the clocks of every kind of zone are the boards of UTC.
+TEST_F(BoardContent, ChangesOfTheClocksMoveNoDay) {
+  for (const char* name : almara_test::kZones) {
+    for (const int mode : {1, 2, 3, 4}) {
+      for (const int month : {3, 4, 9, 10, 11}) {
+        for (const int day : {1, 15, 31}) {
+          for (const EPageDirection direction :
+               {ePageDirectionNone, ePageDirectionBackward, ePageDirectionForward}) {
+            m_board.SetDispMonth(mode);
+            const Texts expected = Build(2024, month, day, direction);
+            const ScopedZone zone(name);
+            ASSERT_EQ(Build(2024, month, day, direction), expected)
+                << name << " mode " << mode << ' ' << month << '-' << day;
+          }
+        }
+      }
+    }
+  }
+}
+
+TEST_F(BoardContent, ApiasBoardGoesOnBehindItsMissingDay) {
+  const ScopedZone zone("Pacific/Apia");
+  m_board.SetShowMonthInterval(false);
+  m_board.SetMaxRows(3);
+  EXPECT_EQ(Build(2011, 12, 28), (Texts{"51 | 19 20 21 22 23 24b 25b", "1 | 26 27 28 29 31b 1b 2",
+                                        "2 | 3 4 5 6 7b 8b 9"}));
+}
+
+// Known limit: each look at a winter day there steps back by one, and the focus is looked at twice.
+TEST_F(BoardContent, DublinInWinterShowsADayTwiceAndLeavesOneOut) {
+  const ScopedZone zone("Europe/Dublin");
+  m_board.SetDispMonth(eDispMonthDayStrip);
+  EXPECT_EQ(Build(2024, 1, 16), Texts{"3 | 11 12 13b 15 15 16 17"});
+  EXPECT_EQ(Build(2024, 7, 16), Texts{"29 | 13b 14b 15 16 17 18 19"});
+}
+
+TEST_F(BoardContent, CasablancaInRamadanShowsADayTwiceAndLeavesOneOut) {
+  const ScopedZone zone("Africa/Casablanca");
+  m_board.SetDispMonth(eDispMonthDayStrip);
+  EXPECT_EQ(Build(2024, 3, 26), Texts{"13 | 21 22 23b 25 25 26 27"});
+  EXPECT_EQ(Build(2024, 2, 13), Texts{"7 | 10b 11b 12 13 14 15 16"});
+}
+
+}  // namespace

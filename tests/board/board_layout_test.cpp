@@ -1,0 +1,307 @@
+// SPDX-License-Identifier: MIT
+//
+// Which columns and rows of a built board are visible.
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <vector>
+
+#include "support/board.h"
+#include "support/clock.h"
+
+using almara_test::Board;
+using almara_test::SetToday;
+
+namespace {
+
+using Indices = std::vector<int>;
+
+constexpr int kMin = std::numeric_limits<int>::min();
+constexpr int kMax = std::numeric_limits<int>::max();
+
+Indices Range(int begin, int end) {
+  Indices indices;
+  for (int i = begin; i < end; ++i) {
+    indices.push_back(i);
+  }
+  return indices;
+}
+
+class BoardLayout : public testing::Test {
+ protected:
+  BoardLayout() { SetToday(2024, 3, 13); }
+
+  void Build(int year, int month, int day, EPageDirection direction = ePageDirectionNone) {
+    m_board.m_pageDirection = direction;
+    m_board.BuildQuietly(year, month, day);
+  }
+
+  Board m_board;
+};
+
+TEST_F(BoardLayout, EmptyBoardShowsNoRow) {
+  m_board._CalcRowColumnIndex();
+  EXPECT_EQ(m_board.VisibleRows(), Indices{});
+  EXPECT_EQ(m_board.VisibleColumns(), Range(0, 7));
+}
+
+TEST_F(BoardLayout, SevenColumnsAreAllVisibleWhereverTodayStands) {
+  for (int day = 11; day <= 17; ++day) {
+    SetToday(2024, 3, day);
+    Build(2024, 3, 13);
+    EXPECT_EQ(m_board.VisibleColumns(), Range(0, 7)) << day;
+  }
+}
+
+struct AroundToday {
+  int columns, today, begin;
+};
+
+constexpr AroundToday kAroundToday[] = {
+    {3, 5, 4},                                                         // 5 - 1; 4 + 3 fits
+    {3, 0, 0}, {3, 1, 0}, {3, 2, 1}, {3, 3, 2}, {3, 4, 3}, {3, 6, 4},  // 5 + 3 does not fit
+    {1, 0, 0}, {1, 3, 3}, {1, 6, 6}, {2, 0, 0}, {2, 1, 0}, {2, 5, 4}, {2, 6, 5},
+    {4, 0, 0}, {4, 2, 0}, {4, 3, 1}, {4, 5, 3}, {4, 6, 3}, {5, 0, 0}, {5, 2, 0},
+    {5, 3, 1}, {5, 4, 2}, {5, 5, 2}, {5, 6, 2}, {6, 0, 0}, {6, 3, 0}, {6, 4, 1},
+    {6, 5, 1}, {6, 6, 1}, {7, 0, 0}, {7, 3, 0}, {7, 6, 0},
+};
+
+TEST_F(BoardLayout, NarrowRollingWeeksStandAroundToday) {
+  for (const AroundToday& c : kAroundToday) {
+    SCOPED_TRACE(testing::Message() << c.columns << " columns, today in " << c.today);
+    m_board.SetMaxColumns(c.columns);
+    SetToday(2024, 3, 11 + c.today);
+    Build(2024, 3, 13);
+    ASSERT_EQ(m_board.m_todayColumn, c.today);
+    EXPECT_EQ(m_board.VisibleColumns(), Range(c.begin, c.begin + c.columns));
+    EXPECT_EQ(m_board.VisibleRows(), Range(0, 5));
+  }
+}
+
+TEST_F(BoardLayout, NarrowRollingWeeksWithoutTodayShowAllColumns) {
+  m_board.SetMaxColumns(3);
+  SetToday(2024, 5, 1);
+  Build(2024, 3, 13);
+  EXPECT_EQ(m_board.VisibleColumns(), Range(0, 7));
+}
+
+TEST_F(BoardLayout, MaxColumnsNarrowNoMonth) {
+  m_board.SetMaxColumns(3);
+  for (const int mode : {2, 3, 0, 5}) {
+    m_board.SetDispMonth(mode);
+    Build(2024, 3, 13);
+    EXPECT_EQ(m_board.VisibleColumns(), Range(0, 7)) << mode;
+  }
+}
+
+TEST_F(BoardLayout, StripShowsItsColumnsFromTheFirst) {
+  m_board.SetDispMonth(eDispMonthDayStrip);
+  for (int columns = 1; columns <= 7; ++columns) {
+    m_board.SetMaxColumns(columns);
+    Build(2024, 3, 13);
+    EXPECT_EQ(m_board.VisibleColumns(), Range(0, columns));
+    EXPECT_EQ(m_board.VisibleRows(), Range(0, 1));
+  }
+}
+
+TEST_F(BoardLayout, HiddenBreakDaysLeaveMondayToFriday) {
+  m_board.SetShowBreakDayOfWeek(false);
+  Build(2024, 3, 13);
+  EXPECT_EQ(m_board.VisibleColumns(), Range(0, 5));
+}
+
+TEST_F(BoardLayout, HiddenBreakDaysFollowTheStartDayOfWeek) {
+  m_board.SetShowBreakDayOfWeek(false);
+  const Indices expected[] = {{1, 2, 3, 4, 5}, {0, 1, 2, 3, 4}, {0, 1, 2, 3, 6}, {0, 1, 2, 5, 6},
+                              {0, 1, 4, 5, 6}, {0, 3, 4, 5, 6}, {2, 3, 4, 5, 6}};
+  for (int start = 0; start <= 6; ++start) {
+    m_board.SetStartDayOfWeek(start);
+    Build(2024, 3, 13);
+    EXPECT_EQ(m_board.VisibleColumns(), expected[start]) << start;
+  }
+}
+
+// The days are laid out from Monday then, but the columns to hide are counted from the value as it
+// is set.
+TEST_F(BoardLayout, StartDayOfWeekOutsideTheWeekHidesOtherColumnsThanItsBreakDays) {
+  m_board.SetShowBreakDayOfWeek(false);
+  struct {
+    int start;
+    Indices visible;
+  } const cases[] = {
+      {8, {0, 1, 2, 3, 4}},        // as Monday
+      {9, {0, 1, 2, 3, 6}},        // as Tuesday: Friday and Saturday are hidden
+      {7, {1, 2, 3, 4, 5}},        // as Sunday
+      {-1, {0, 2, 3, 4, 5, 6}},    // below 0 there are no days: only 0, Sunday, is hidden
+      {-3, {0, 1, 2, 4, 5, 6}},    //
+      {-10, {0, 1, 2, 4, 5, 6}},   // -7 counts as 0 too
+      {kMax, {0, 1, 2, 4, 5, 6}},  // wraps behind column 0
+      {kMin, {0, 1, 3, 4, 5, 6}},  //
+  };
+  for (const auto& c : cases) {
+    m_board.SetStartDayOfWeek(c.start);
+    Build(2024, 3, 13);
+    ASSERT_EQ(m_board.Cell(1, 2).GetDate().day, 13) << c.start;
+    EXPECT_EQ(m_board.VisibleColumns(), c.visible) << c.start;
+  }
+}
+
+TEST_F(BoardLayout, HiddenBreakDaysNarrowTheRangeFurther) {
+  m_board.SetShowBreakDayOfWeek(false);
+  m_board.SetMaxColumns(3);
+  SetToday(2024, 3, 16);  // a Saturday
+  Build(2024, 3, 13);
+  EXPECT_EQ(m_board.VisibleColumns(), Indices{4});
+  m_board.SetMaxColumns(1);
+  Build(2024, 3, 13);
+  EXPECT_EQ(m_board.VisibleColumns(), Indices{});
+  EXPECT_EQ(m_board.VisibleRows(), Indices{});
+}
+
+TEST_F(BoardLayout, HideBreakDayFlagHidesNothing) {
+  m_board.SetHideBreakDay(true);
+  Build(2024, 3, 13);
+  EXPECT_EQ(m_board.VisibleColumns(), Range(0, 7));
+  EXPECT_EQ(m_board.VisibleRows(), Range(0, 5));
+  m_board.SetHideBreakDay(false);
+  m_board.SetShowBreakDayOfWeek(false);
+  Build(2024, 3, 13);
+  EXPECT_EQ(m_board.VisibleColumns(), Range(0, 5));
+}
+
+// Columns of a strip are not its weekdays, but they are hidden as if they were.
+TEST_F(BoardLayout, StripHidesTheColumnsOfAWeekBoard) {
+  m_board.SetDispMonth(eDispMonthDayStrip);
+  m_board.SetShowBreakDayOfWeek(false);
+  Build(2024, 3, 13);  // Sunday 10 March in column 0
+  EXPECT_EQ(m_board.VisibleColumns(), Range(0, 5));
+  EXPECT_EQ(m_board.Cell(0, 0).GetDate().day, 10);
+}
+
+TEST_F(BoardLayout, AllDaysAreBreakDays) {
+  m_board.SetShowBreakDayOfWeek(false);
+  for (int day = 0; day <= 6; ++day) {
+    m_board.SetBreakDayOfWeek(day, true);
+  }
+  Build(2024, 3, 13);
+  EXPECT_EQ(m_board.VisibleColumns(), Indices{});
+  EXPECT_EQ(m_board.VisibleRows(), Indices{});
+  EXPECT_EQ(m_board.m_rows.size(), 5U);
+  EXPECT_EQ(m_board.GetWeekNumberCount(), 0);
+}
+
+TEST_F(BoardLayout, FiftyRowsAreVisibleAtMost) {
+  for (const int rows : {49, 50, 51, 60}) {
+    m_board.SetMaxRows(rows);
+    Build(2024, 3, 13);
+    EXPECT_EQ(m_board.m_rows.size(), static_cast<std::size_t>(rows));
+    EXPECT_EQ(m_board.VisibleRows(), Range(0, rows < 50 ? rows : 50));
+  }
+}
+
+// The fifty rows are the first of the board, before any is hidden.
+TEST_F(BoardLayout, RowsBehindTheFiftiethAreNotLookedAt) {
+  m_board.SetMaxRows(60);
+  m_board.SetShowBreakDayOfWeek(false);
+  Build(2024, 3, 13);
+  EXPECT_LT(m_board.m_visibleRowCount, 50);
+  EXPECT_LT(m_board.VisibleRows().back(), 50);
+}
+
+TEST_F(BoardLayout, BandRowStaysVisibleWithBreakDays) {
+  Build(2024, 3, 13);  // the last row is a band from its title on
+  EXPECT_EQ(m_board.VisibleRows(), Range(0, 5));
+}
+
+TEST_F(BoardLayout, TitleKeepsARowWithoutBreakDays) {
+  m_board.SetShowBreakDayOfWeek(false);
+  Build(2024, 3, 13);
+  EXPECT_EQ(m_board.VisibleRows(), Range(0, 5));
+}
+
+// June 2024 begins on a Saturday: its title stands in a hidden column.
+TEST_F(BoardLayout, RowOfFillersGoesWithoutBreakDays) {
+  m_board.SetMaxRows(6);
+  Build(2024, 5, 22);  // rows from 13 May, the band from 1 June's column on
+  ASSERT_EQ(m_board.Cell(2, 5).GetType(), eCalendarItemMonthTitle);
+  EXPECT_EQ(m_board.VisibleRows(), Range(0, 6));
+  m_board.SetShowBreakDayOfWeek(false);
+  Build(2024, 5, 22);
+  EXPECT_EQ(m_board.VisibleRows(), (Indices{0, 1, 2, 4, 5}));
+}
+
+TEST_F(BoardLayout, RowOfHiddenDaysGoesWithoutBreakDays) {
+  m_board.SetDispMonth(eDispMonthWholeMonth);
+  m_board.SetShowBreakDayOfWeek(false);
+  Build(2024, 6, 12);  // 1 June is a Saturday: the first row has hidden days and the weekend
+  EXPECT_EQ(m_board.m_rows.size(), 5U);
+  EXPECT_EQ(m_board.VisibleRows(), (Indices{1, 2, 3, 4}));
+}
+
+// A break day may stand in a visible column of a strip; today on one keeps the row no more.
+TEST_F(BoardLayout, RowOfBreakDaysGoesWithoutBreakDays) {
+  m_board.SetDispMonth(eDispMonthDayStrip);
+  m_board.SetShowBreakDayOfWeek(false);
+  m_board.SetMaxColumns(2);
+  SetToday(2024, 3, 16);
+  Build(2024, 3, 16);  // Saturday, today, and Sunday in the columns of Monday and Tuesday
+  EXPECT_EQ(m_board.VisibleColumns(), Range(0, 2));
+  EXPECT_EQ(m_board.VisibleRows(), Indices{});
+  Build(2024, 3, 15);  // Friday and Saturday
+  EXPECT_EQ(m_board.VisibleRows(), Range(0, 1));
+  m_board.SetShowBreakDayOfWeek(true);
+  Build(2024, 3, 16);
+  EXPECT_EQ(m_board.VisibleRows(), Range(0, 1));
+}
+
+TEST_F(BoardLayout, EmptyCellsKeepARow) {
+  m_board.SetShowBreakDayOfWeek(false);
+  m_board.m_rows.assign(3, tagCalendarRow{});
+  for (CCalendarItem& item : m_board.m_rows[1].items) {
+    item.SetType(eCalendarItemBlank);
+  }
+  m_board._CalcRowColumnIndex();
+  EXPECT_EQ(m_board.VisibleRows(), (Indices{0, 2}));
+}
+
+TEST_F(BoardLayout, EachKindKeepsOrLosesARow) {
+  m_board.SetShowBreakDayOfWeek(false);
+  const bool keeps[] = {false, true, false, true, true, false, false, true};
+  for (ECalendarItem type = 1; type <= 7; ++type) {
+    m_board.m_rows.assign(1, tagCalendarRow{});
+    for (CCalendarItem& item : m_board.m_rows[0].items) {
+      item.SetType(eCalendarItemBlank);
+    }
+    m_board.m_rows[0].items[4].SetType(type);
+    m_board.m_rows[0].items[5].SetType(eCalendarItemDay);  // in a hidden column
+    m_board._CalcRowColumnIndex();
+    EXPECT_EQ(m_board.m_visibleRowCount, keeps[type] ? 1 : 0) << type;
+  }
+}
+
+TEST_F(BoardLayout, UnusedIndicesAre0) {
+  m_board.SetMaxRows(50);
+  Build(2024, 3, 13);
+  m_board.SetMaxRows(2);
+  m_board.SetShowBreakDayOfWeek(false);
+  Build(2024, 3, 13);
+  for (std::size_t row = 2; row < 50; ++row) {
+    EXPECT_EQ(m_board.m_visibleRows[row], 0);
+  }
+  EXPECT_EQ(m_board.m_visibleColumns[5], 0);
+  EXPECT_EQ(m_board.m_visibleColumns[6], 0);
+}
+
+TEST_F(BoardLayout, RejectedDateIsLaidOutAgainFromTheRowsBefore) {
+  Build(2024, 3, 13);
+  m_board.SetShowBreakDayOfWeek(false);
+  Build(1899, 12, 31);
+  EXPECT_EQ(m_board.VisibleColumns(), Range(0, 5));
+  EXPECT_EQ(m_board.m_rows.size(), 5U);
+  m_board.SetMaxColumns(3);
+  Build(2024, 2, 32);
+  EXPECT_EQ(m_board.VisibleColumns(), (Indices{1, 2, 3}));
+  EXPECT_EQ(m_board.m_weekNumberSpans[0].firstWeekCells, 3);
+}
+
+}  // namespace

@@ -1,0 +1,353 @@
+// SPDX-License-Identifier: MIT
+#include "board/calendar_week_number.h"
+
+#include <gtest/gtest.h>
+
+#include <ctime>
+#include <limits>
+
+#include "support/civil.h"
+#include "support/zone.h"
+
+using almara_test::ScopedZone;
+
+namespace {
+
+constexpr int kMin = std::numeric_limits<int>::min();
+constexpr int kMax = std::numeric_limits<int>::max();
+
+struct WeekCase {
+  int year, month, day;
+  int fromJan1, iso;
+};
+
+constexpr WeekCase kWeekCases[] = {
+    {2021, 1, 1, 1, 53},     // a Friday, behind a long year
+    {2021, 1, 3, 1, 53},     //
+    {2021, 1, 4, 2, 1},      //
+    {2022, 1, 1, 1, 52},     // a Saturday
+    {2022, 1, 2, 1, 52},     //
+    {2022, 1, 3, 2, 1},      //
+    {2005, 1, 1, 1, 53},     // a Saturday, behind a leap year
+    {2005, 1, 2, 1, 53},     //
+    {2005, 1, 3, 2, 1},      //
+    {2023, 1, 1, 1, 52},     // a Sunday
+    {2023, 1, 2, 2, 1},      // the Monday behind it
+    {2017, 1, 1, 1, 52},     // a Sunday, behind a leap year
+    {2024, 1, 1, 1, 1},      // a Monday
+    {2024, 1, 7, 1, 1},      //
+    {2024, 1, 8, 2, 2},      //
+    {2024, 3, 31, 13, 13},   //
+    {2024, 4, 1, 14, 14},    //
+    {2024, 12, 29, 52, 52},  // a Sunday
+    {2024, 12, 30, 53, 1},   //
+    {2024, 12, 31, 53, 1},   // a Tuesday, of the next year's first week
+    {2025, 12, 28, 52, 52},  //
+    {2025, 12, 29, 53, 1},   // a Monday
+    {2020, 12, 31, 53, 53},  // a Thursday: the week keeps its year
+    {2015, 12, 31, 53, 53},  //
+    {2026, 12, 31, 53, 53},  //
+    {2012, 12, 30, 53, 52},  //
+    {2012, 12, 31, 54, 1},   // a leap year that begins on a Sunday
+    {1900, 1, 1, 1, 1},      //
+    {2000, 1, 1, 1, 52},     //
+    {2000, 12, 31, 53, 52},  //
+    {2099, 12, 31, 53, 53},  //
+};
+
+TEST(WeekNumber, DatesUnderBothRules) {
+  CCalendarWeekNumber weeks;
+  for (const WeekCase& c : kWeekCases) {
+    SCOPED_TRACE(testing::Message() << c.year << '-' << c.month << '-' << c.day);
+    EXPECT_EQ(weeks.GetWeekNumber(c.year, c.month, c.day, 0), c.fromJan1);
+    EXPECT_EQ(weeks.GetWeekNumber(c.year, c.month, c.day, 1), c.iso);
+    EXPECT_EQ(weeks.GetWeekNumber(c.year, c.month, c.day, 2), c.fromJan1);
+    EXPECT_EQ(weeks._GetWeekNumber(c.year, c.month, c.day), c.iso);
+    EXPECT_EQ(weeks._GetWeekOfYear(c.year, c.month, c.day), c.fromJan1);
+  }
+}
+
+TEST(WeekNumber, EveryOtherTypeCountsFrom1January) {
+  CCalendarWeekNumber weeks;
+  for (const int type : {-1, 3, 7, 100, kMin, kMax}) {
+    EXPECT_EQ(weeks.GetWeekNumber(2024, 12, 31, type), 53) << type;
+    EXPECT_EQ(weeks.GetWeekNumber(2021, 1, 1, type), 1) << type;
+  }
+}
+
+TEST(WeekNumber, FirstOfJanuaryIsWeek1AndTheMondayBehindItBeginsWeek2) {
+  CCalendarWeekNumber weeks;
+  for (int year = 1900; year <= 2099; ++year) {
+    EXPECT_EQ(weeks.GetWeekNumber(year, 1, 1, 0), 1) << year;
+    almara_test::Civil monday{year, 1, 2};
+    while (almara_test::DayOfWeek(monday) != 1) {
+      EXPECT_EQ(weeks.GetWeekNumber(year, 1, monday.day, 0), 1) << year;
+      ++monday.day;
+    }
+    EXPECT_EQ(weeks.GetWeekNumber(year, 1, monday.day, 0), 2) << year;
+  }
+}
+
+TEST(WeekNumber, RangeOfDatesHasBothEnds) {
+  CCalendarWeekNumber weeks;
+  struct {
+    int year, month, day;
+    bool accepted;
+  } const cases[] = {
+      {1900, 1, 1, true},   {1899, 12, 31, false},     {2099, 12, 31, true},
+      {2100, 1, 1, false},  {2024, 1, 15, true},       {2024, 0, 15, false},
+      {2024, 12, 15, true}, {2024, 13, 15, false},     {2024, 5, 1, true},
+      {2024, 5, 0, false},  {2024, 5, 31, true},       {2024, 5, 32, false},
+      {0, 0, 0, false},     {-2024, 5, 5, false},      {2024, -5, 5, false},
+      {2024, 5, -5, false}, {kMin, kMin, kMin, false}, {kMax, kMax, kMax, false},
+  };
+  for (const auto& c : cases) {
+    for (const int type : {0, 1, 2}) {
+      SCOPED_TRACE(testing::Message() << c.year << '-' << c.month << '-' << c.day << '-' << type);
+      const int week = weeks.GetWeekNumber(c.year, c.month, c.day, type);
+      EXPECT_EQ(week != -1, c.accepted);
+    }
+    EXPECT_EQ(weeks._GetWeekNumber(c.year, c.month, c.day) != -1, c.accepted);
+    EXPECT_EQ(weeks._GetWeekNumber2(c.year, c.month, c.day) != -1, c.accepted);
+    EXPECT_EQ(weeks._GetWeekOfYear(c.year, c.month, c.day) != -1, c.accepted);
+  }
+}
+
+TEST(WeekNumber, RejectedDatesAreRejectedAgain) {
+  CCalendarWeekNumber weeks;
+  for (int time = 0; time < 2; ++time) {
+    EXPECT_EQ(weeks.GetWeekNumber(1899, 12, 31, 1), -1);
+    EXPECT_EQ(weeks.GetWeekNumber(1899, 12, 31, 0), -1);
+    EXPECT_EQ(weeks.GetWeekNumber(2024, -1, 0, 2), -1);
+    EXPECT_EQ(weeks.GetWeekNumber(2024, 1, 0, 2), -1);
+  }
+}
+
+// Mode 0 counts seconds: a spring day of 23 hours makes every later date a day short.
+TEST(WeekNumber, DaylightSavingTakesADayFromTheCountFrom1January) {
+  CCalendarWeekNumber inUtc;
+  EXPECT_EQ(inUtc.GetWeekNumber(2024, 4, 1, 0), 14);
+
+  const ScopedZone berlin("Europe/Berlin");  // from 31 March 2024 on
+  CCalendarWeekNumber weeks;
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 3, 31, 0), 13);  // a Sunday; its midnight comes before
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, 0), 13);   // a Monday
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 2, 0), 14);
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 10, 28, 0), 44);  // a Monday in winter time again
+  EXPECT_EQ(weeks.GetWeekNumber(2012, 12, 31, 0), 54);
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, 1), 14);  // ISO weeks do not count seconds
+}
+
+TEST(WeekNumber, DaylightSavingAcrossTheNewYearShortensNothing) {
+  const ScopedZone sydney("Australia/Sydney");
+  CCalendarWeekNumber weeks;
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 8, 0), 15);    // a Monday, an hour more than whole days
+  EXPECT_EQ(weeks.GetWeekNumber(2012, 12, 31, 0), 54);  // no shift remains between the two ends
+}
+
+TEST(WeekNumber, DaysThatAShortMonthLacksCountOn) {
+  CCalendarWeekNumber weeks;
+  for (const int type : {0, 1}) {
+    for (int year = 1900; year <= 2099; ++year) {
+      const bool leap = almara_test::IsLeapYear(year);
+      EXPECT_EQ(weeks.GetWeekNumber(year, 2, 30, type),
+                weeks.GetWeekNumber(year, 3, leap ? 1 : 2, type))
+          << year << ' ' << type;
+    }
+  }
+}
+
+// An answer is kept for good, by date and type: a new zone shows which ones are computed.
+TEST(WeekNumber, AnswerIsKeptWhenTheZoneChanges) {
+  CCalendarWeekNumber weeks;
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, 0), 14);
+  const ScopedZone berlin("Europe/Berlin");
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, 0), 14);  // 13 if it were asked for the first time
+}
+
+TEST(WeekNumber, EachTypeOfADateIsAnAnswerOfItsOwn) {
+  CCalendarWeekNumber weeks;
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, 0), 14);
+  const ScopedZone berlin("Europe/Berlin");
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, 2), 13);
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, 5), 13);
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 8, 0), 14);  // another date
+}
+
+// In years that begin on a Friday, Saturday or Sunday.
+TEST(WeekNumber2, IsOneAboveIsoBehindTheFirstPartialWeek) {
+  const CCalendarWeekNumber weeks;
+  EXPECT_EQ(weeks._GetWeekNumber2(2021, 1, 3), 53);
+  EXPECT_EQ(weeks._GetWeekNumber2(2021, 1, 4), 2);
+  EXPECT_EQ(weeks._GetWeekNumber2(2021, 12, 31), 53);
+  EXPECT_EQ(weeks._GetWeekNumber2(2022, 1, 2), 52);
+  EXPECT_EQ(weeks._GetWeekNumber2(2022, 1, 3), 2);
+  EXPECT_EQ(weeks._GetWeekNumber2(2023, 1, 1), 52);
+  EXPECT_EQ(weeks._GetWeekNumber2(2023, 1, 2), 2);
+  EXPECT_EQ(weeks._GetWeekNumber2(2012, 12, 31), 1);  // a week of the next year stays week 1
+  EXPECT_EQ(weeks._GetWeekNumber2(2012, 12, 30), 53);
+}
+
+TEST(WeekNumber2, IsIsoInAllOtherYears) {
+  const CCalendarWeekNumber weeks;
+  for (const int year : {2024, 2019, 2025, 2026}) {  // Monday, Tuesday, Wednesday, Thursday
+    for (almara_test::Civil d{year, 1, 1}; d.year == year; d = almara_test::NextDay(d)) {
+      EXPECT_EQ(weeks._GetWeekNumber2(d.year, d.month, d.day),
+                weeks._GetWeekNumber(d.year, d.month, d.day))
+          << d;
+    }
+  }
+}
+
+TEST(WeekHelpers, LeapYears) {
+  const CCalendarWeekNumber weeks;
+  struct {
+    int year, leap;
+  } const cases[] = {{2024, 1}, {2023, 0}, {2000, 1}, {1900, 0}, {2100, 0}, {0, 1}, {-4, 1}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(weeks._IsALeapYear(c.year), c.leap) << c.year;
+    EXPECT_EQ(weeks._GetDaysInYear(c.year), 365 + c.leap) << c.year;
+  }
+}
+
+TEST(WeekHelpers, DaysInMonth) {
+  const CCalendarWeekNumber weeks;
+  EXPECT_EQ(weeks._GetDaysInMonth(2000, 2), 29);
+  EXPECT_EQ(weeks._GetDaysInMonth(1900, 2), 28);
+  EXPECT_EQ(weeks._GetDaysInMonth(2023, 2), 28);
+  for (const int month : {4, 6, 9, 11}) {
+    EXPECT_EQ(weeks._GetDaysInMonth(2023, month), 30) << month;
+  }
+  for (const int month : {1, 3, 5, 7, 8, 10, 12, 0, 13, -2, kMin, kMax}) {
+    EXPECT_EQ(weeks._GetDaysInMonth(2023, month), 31) << month;
+  }
+}
+
+TEST(WeekHelpers, DayOfTheWeek) {
+  const CCalendarWeekNumber weeks;
+  EXPECT_EQ(weeks._GetDayOfTheWeek(2024, 1, 1), 1);
+  EXPECT_EQ(weeks._GetDayOfTheWeek(2024, 2, 29), 4);
+  EXPECT_EQ(weeks._GetDayOfTheWeek(2024, 3, 1), 5);
+  EXPECT_EQ(weeks._GetDayOfTheWeek(1900, 2, 28), 3);
+  EXPECT_EQ(weeks._GetDayOfTheWeek(1900, 3, 1), 4);
+  EXPECT_EQ(weeks._GetDayOfTheWeek(2099, 12, 31), 4);
+  EXPECT_EQ(weeks._GetDayOfTheWeek(2024, 1, 7), 0);
+}
+
+TEST(WeekHelpers, DayOfTheWeekOutsideTheMonthsReadsNothing) {
+  const CCalendarWeekNumber weeks;
+  for (const int month : {0, 13, kMin, kMax}) {
+    EXPECT_EQ(weeks._GetDayOfTheWeek(2024, month, 1), -1) << month;
+  }
+}
+
+TEST(WeekHelpers, NumberOfWeeksInYear) {
+  const CCalendarWeekNumber weeks;
+  EXPECT_EQ(weeks._GetNumberOfWeeksInYear(2026), 53);  // begins on a Thursday
+  EXPECT_EQ(weeks._GetNumberOfWeeksInYear(2015), 53);
+  EXPECT_EQ(weeks._GetNumberOfWeeksInYear(2020), 53);  // a leap year, on a Wednesday
+  EXPECT_EQ(weeks._GetNumberOfWeeksInYear(2025), 52);  // on a Wednesday, no leap year
+  EXPECT_EQ(weeks._GetNumberOfWeeksInYear(2024), 52);  // a leap year, on a Monday
+  EXPECT_EQ(weeks._GetNumberOfWeeksInYear(2021), 52);  // on a Friday
+}
+
+struct DayInYearCase {
+  int year, dayInYear, month, day;
+};
+
+constexpr DayInYearCase kDayInYearCases[] = {
+    {2023, 1, 1, 1},     {2023, 31, 1, 31},   {2023, 32, 2, 1},
+    {2023, 59, 2, 28},   {2023, 60, 3, 1},    {2024, 60, 2, 29},
+    {2024, 61, 3, 1},    {2023, 90, 3, 31},   {2023, 91, 4, 1},
+    {2023, 120, 4, 30},  {2023, 121, 5, 1},   {2023, 151, 5, 31},
+    {2023, 152, 6, 1},   {2023, 181, 6, 30},  {2023, 182, 7, 1},
+    {2023, 212, 7, 31},  {2023, 213, 8, 1},   {2023, 243, 8, 31},
+    {2023, 244, 9, 1},   {2023, 273, 9, 30},  {2023, 274, 10, 1},
+    {2023, 304, 10, 31}, {2023, 305, 11, 1},  {2023, 334, 11, 30},
+    {2023, 335, 12, 1},  {2023, 365, 12, 31}, {2024, 366, 12, 31},
+    {2023, 366, 13, 1},                                         // beyond the year: month 13
+    {2024, 367, 13, 1},  {2023, 400, 13, 35}, {2023, 0, 1, 0},  // nothing is rejected
+    {2023, -7, 1, -7},
+};
+
+TEST(WeekHelpers, DayAndMonthFromDayInYear) {
+  const CCalendarWeekNumber weeks;
+  for (const DayInYearCase& c : kDayInYearCases) {
+    SCOPED_TRACE(testing::Message() << c.year << " day " << c.dayInYear);
+    int month = -99;
+    int day = -99;
+    EXPECT_EQ(weeks._GetDayAndMonthFromDayInYear(c.year, c.dayInYear, &month, &day), 1);
+    EXPECT_EQ(month, c.month);
+    EXPECT_EQ(day, c.day);
+  }
+}
+
+struct WeekInYearCase {
+  int year, week;
+  int newYear, month, day;
+};
+
+constexpr WeekInYearCase kWeekInYearCases[] = {
+    {2024, 1, 2024, 1, 1},      // a Monday
+    {2024, 52, 2024, 12, 23},   //
+    {2024, 53, 2024, 12, 30},   // one week too many goes to 2025 and falls back
+    {2019, 1, 2018, 12, 31},    // Tuesday
+    {2025, 1, 2024, 12, 30},    // Wednesday
+    {2026, 1, 2025, 12, 29},    // Thursday
+    {2026, 53, 2026, 12, 28},   // a long year
+    {2026, 54, 2027, 1, 4},     //
+    {2021, 1, 2021, 1, 4},      // Friday
+    {2022, 1, 2022, 1, 3},      // Saturday
+    {2024, 10, 2024, 3, 4},     //
+    {2024, 105, 2025, 12, 29},  // two years on: week 1 of 2026
+};
+
+TEST(WeekHelpers, DayAndMonthFromWeekInYear) {
+  const CCalendarWeekNumber weeks;
+  for (const WeekInYearCase& c : kWeekInYearCases) {
+    SCOPED_TRACE(testing::Message() << c.year << " week " << c.week);
+    int year = c.year;
+    int month = -99;
+    int day = -99;
+    EXPECT_EQ(weeks._GetDayAndMonthFromWeekInYear(&year, c.week, &month, &day), 1);
+    EXPECT_EQ(year, c.newYear);
+    EXPECT_EQ(month, c.month);
+    EXPECT_EQ(day, c.day);
+  }
+}
+
+TEST(WeekHelpers, WeekOfAYearThatBeginsOnASundayBeginsOnThatWeekday) {
+  const CCalendarWeekNumber weeks;
+  for (int week = 1; week <= 52; ++week) {
+    int year = 2023;
+    int month = 0;
+    int day = 0;
+    weeks._GetDayAndMonthFromWeekInYear(&year, week, &month, &day);
+    EXPECT_EQ(year, 2023);
+    EXPECT_EQ(almara_test::DayNumber({2023, month, day}),
+              almara_test::DayNumber({2023, 1, 1}) + 7 * (week - 1));
+  }
+}
+
+TEST(SetDay, SetsSevenFieldsAndLeavesTheRest) {
+  std::tm t{};
+  t.tm_sec = 1;
+  t.tm_min = 2;
+  t.tm_hour = 3;
+  t.tm_wday = 4;
+  t.tm_yday = 5;
+  t.tm_gmtoff = 6;
+  setDay(t, 2024, 3, 9);
+  EXPECT_EQ(t.tm_sec, 0);
+  EXPECT_EQ(t.tm_min, 0);
+  EXPECT_EQ(t.tm_hour, 0);
+  EXPECT_EQ(t.tm_mday, 9);
+  EXPECT_EQ(t.tm_mon, 2);
+  EXPECT_EQ(t.tm_year, 124);
+  EXPECT_EQ(t.tm_isdst, -1);
+  EXPECT_EQ(t.tm_wday, 4);
+  EXPECT_EQ(t.tm_yday, 5);
+  EXPECT_EQ(t.tm_gmtoff, 6);
+}
+
+}  // namespace

@@ -1,0 +1,363 @@
+// SPDX-License-Identifier: MIT
+//
+// The spans of the week-number column, row by row. Each row of a case is given by its week numbers;
+// U is a cell without one.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstddef>
+#include <ostream>
+#include <tuple>
+#include <type_traits>
+#include <vector>
+
+#include "support/board.h"
+#include "support/clock.h"
+
+using almara_test::Board;
+
+bool operator==(const tagCalendarWeekSpan& a, const tagCalendarWeekSpan& b) {
+  const auto tie = [](const tagCalendarWeekSpan& s) {
+    return std::tie(s.weekNumber, s.firstWeekCells, s.secondWeekNumber, s.secondWeekCells,
+                    s.cellsWithoutWeek, s.rows);
+  };
+  return tie(a) == tie(b);
+}
+
+std::ostream& operator<<(std::ostream& out, const tagCalendarWeekSpan& s) {
+  return out << '{' << s.weekNumber << ", " << s.firstWeekCells << ", " << s.secondWeekNumber
+             << ", " << s.secondWeekCells << ", " << s.cellsWithoutWeek << ", " << s.rows << '}';
+}
+
+namespace {
+
+constexpr int U = -1;
+
+using Week = std::array<int, 7>;
+using Spans = std::vector<tagCalendarWeekSpan>;
+
+constexpr Week AllOf(int week) { return {week, week, week, week, week, week, week}; }
+
+static_assert(sizeof(tagCalendarWeekSpan) == 24 && std::is_standard_layout_v<tagCalendarWeekSpan>);
+static_assert(offsetof(tagCalendarWeekSpan, weekNumber) == 0 &&
+              offsetof(tagCalendarWeekSpan, firstWeekCells) == 4 &&
+              offsetof(tagCalendarWeekSpan, secondWeekNumber) == 8 &&
+              offsetof(tagCalendarWeekSpan, secondWeekCells) == 12 &&
+              offsetof(tagCalendarWeekSpan, cellsWithoutWeek) == 16 &&
+              offsetof(tagCalendarWeekSpan, rows) == 20);
+
+class WeekNumberSpans : public testing::Test {
+ protected:
+  // The spans of rows of which the given columns are visible, all seven if none is named.
+  Spans Of(const std::vector<Week>& weeks,
+           const std::vector<int>& columns = {0, 1, 2, 3, 4, 5, 6}) {
+    m_board.m_rows.assign(weeks.size(), tagCalendarRow{});
+    for (std::size_t row = 0; row < weeks.size(); ++row) {
+      for (std::size_t column = 0; column < 7; ++column) {
+        m_board.m_rows[row].items[column].SetWeekNumber(weeks[row][column]);
+      }
+      m_board.m_visibleRows[row] = static_cast<int>(row);
+    }
+    m_board.m_visibleRowCount = static_cast<int>(weeks.size());
+    m_board.m_visibleColumnCount = static_cast<int>(columns.size());
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+      m_board.m_visibleColumns[i] = columns[i];
+    }
+    m_board._CalcRowSpanByWeekNumber();
+    return m_board.m_weekNumberSpans;
+  }
+
+  void SundayFirst() { m_board.SetStartDayOfWeek(0); }
+  void SaturdayFirst() { m_board.SetStartDayOfWeek(6); }
+
+  Board m_board;
+};
+
+TEST_F(WeekNumberSpans, NoVisibleRowNoSpan) {
+  Of({AllOf(9)});
+  EXPECT_EQ(Of({}), Spans{});
+}
+
+TEST_F(WeekNumberSpans, RowsOfOneWeekAreASpanEach) {
+  EXPECT_EQ(Of({AllOf(9), AllOf(10), AllOf(11)}),
+            (Spans{{9, 7, 0, 0, 0, 1}, {10, 7, 0, 0, 0, 1}, {11, 7, 0, 0, 0, 1}}));
+}
+
+TEST_F(WeekNumberSpans, FirstRowThatEndsWithAWeekStandsAlone) {
+  const std::vector<Week> weeks = {{U, U, U, U, 9, 9, 9}, AllOf(10)};
+  const Spans expected = {{9, 3, 0, 0, 4, 1}, {10, 7, 0, 0, 0, 1}};
+  EXPECT_EQ(Of(weeks), expected);
+  SundayFirst();
+  EXPECT_EQ(Of(weeks), expected);
+  SaturdayFirst();
+  EXPECT_EQ(Of(weeks), expected);
+}
+
+TEST_F(WeekNumberSpans, LaterRowThatEndsWithAWeekStandsAloneFromMondayOnly) {
+  const std::vector<Week> weeks = {AllOf(8), {U, U, U, U, 9, 9, 9}, AllOf(10)};
+  EXPECT_EQ(Of(weeks), (Spans{{8, 7, 0, 0, 0, 1}, {9, 3, 0, 0, 4, 1}, {10, 7, 0, 0, 0, 1}}));
+  // Otherwise it goes on in the next row, where week 10 becomes the second one.
+  SundayFirst();
+  m_board.SetWeekNumberCalcType(0);
+  EXPECT_EQ(Of(weeks), (Spans{{8, 7, 0, 0, 0, 1}, {9, 3, 10, 7, 4, 2}}));
+}
+
+TEST_F(WeekNumberSpans, WeekCutByABandIsPutTogether) {
+  const std::vector<Week> weeks = {
+      AllOf(8), {9, 9, 9, 9, U, U, U}, {U, U, U, U, 9, 9, 9}, AllOf(10)};
+  const Spans expected = {{8, 7, 0, 0, 0, 1}, {9, 7, 0, 0, 7, 2}, {10, 7, 0, 0, 0, 1}};
+  EXPECT_EQ(Of(weeks), expected);
+  SaturdayFirst();
+  EXPECT_EQ(Of(weeks), expected);
+}
+
+TEST_F(WeekNumberSpans, BandRowIsPutToTheRowBelow) {
+  EXPECT_EQ(Of({AllOf(8), AllOf(U), AllOf(9)}), (Spans{{8, 7, 0, 0, 0, 1}, {9, 7, 0, 0, 7, 2}}));
+}
+
+TEST_F(WeekNumberSpans, BandRowAtTheTopIsPutToTheRowBelow) {
+  EXPECT_EQ(Of({AllOf(U), AllOf(9)}), (Spans{{9, 7, 0, 0, 7, 2}}));
+}
+
+TEST_F(WeekNumberSpans, BandRowAtTheEndIsPutToTheSpanAbove) {
+  EXPECT_EQ(Of({AllOf(8), AllOf(9), AllOf(U)}), (Spans{{8, 7, 0, 0, 0, 1}, {9, 7, 0, 0, 0, 2}}));
+}
+
+TEST_F(WeekNumberSpans, BandRowAtTheEndMakesASpanOfTwoRowsOneOfThree) {
+  EXPECT_EQ(Of({{9, 9, 9, 9, U, U, U}, {U, U, U, U, 9, 9, 9}, AllOf(U)}),
+            (Spans{{9, 7, 0, 0, 7, 3}}));
+}
+
+TEST_F(WeekNumberSpans, OnlyRowWithoutWeeksIsASpanOfItsOwn) {
+  EXPECT_EQ(Of({AllOf(U)}), (Spans{{0, 0, 0, 0, 7, 1}}));
+}
+
+TEST_F(WeekNumberSpans, TwoRowsWithoutWeeksAreOneSpan) {
+  EXPECT_EQ(Of({AllOf(U), AllOf(U)}), (Spans{{0, 0, 0, 0, 14, 2}}));
+  EXPECT_EQ(Of({AllOf(U), AllOf(U), AllOf(9)}), (Spans{{0, 0, 0, 0, 14, 2}, {9, 7, 0, 0, 0, 1}}));
+}
+
+TEST_F(WeekNumberSpans, LastRowIsAlwaysClosed) {
+  EXPECT_EQ(Of({AllOf(8), {9, 9, 9, U, U, U, U}}), (Spans{{8, 7, 0, 0, 0, 1}, {9, 3, 0, 0, 4, 1}}));
+  EXPECT_EQ(Of({{9, 9, 9, U, U, U, U}, {U, U, U, U, U, U, U}}), (Spans{{9, 3, 0, 0, 11, 2}}));
+  SundayFirst();
+  EXPECT_EQ(Of({AllOf(8), {U, 9, 9, 9, 9, 9, 9}}), (Spans{{8, 7, 0, 0, 0, 1}, {9, 6, 0, 0, 1, 1}}));
+}
+
+TEST_F(WeekNumberSpans, FirstRowThatEndsWithoutAWeekGoesOn) {
+  EXPECT_EQ(Of({{9, 9, 9, U, U, U, U}, {U, U, U, 9, 9, 9, 9}, AllOf(10)}),
+            (Spans{{9, 7, 0, 0, 7, 2}, {10, 7, 0, 0, 0, 1}}));
+}
+
+TEST_F(WeekNumberSpans, SpanHoldsTwoRowsAtMost) {
+  EXPECT_EQ(Of({{9, 9, U, U, U, U, U}, AllOf(U), {U, U, 9, 9, 9, 9, 9}}),
+            (Spans{{9, 2, 0, 0, 12, 2}, {9, 5, 0, 0, 2, 1}}));
+}
+
+TEST_F(WeekNumberSpans, RowOfTwoWeeksHasBoth) {
+  SaturdayFirst();
+  EXPECT_EQ(Of({{9, 9, 10, 10, 10, 10, 10}}), (Spans{{9, 2, 10, 5, 0, 1}}));
+  EXPECT_EQ(Of({{9, 9, 10, 10, 10, 10, 10}, {10, 10, 11, 11, 11, 11, 11}}),
+            (Spans{{9, 2, 10, 5, 0, 1}, {10, 2, 11, 5, 0, 1}}));
+}
+
+TEST_F(WeekNumberSpans, ThirdWeekOfARowCountsNowhere) {
+  EXPECT_EQ(Of({{8, 9, 9, 10, 10, 10, 9}}), (Spans{{8, 1, 9, 3, 0, 1}}));
+}
+
+TEST_F(WeekNumberSpans, LeadingSundayGivesWayToTheWeekOfTheRow) {
+  SundayFirst();
+  EXPECT_EQ(Of({{9, 10, 10, 10, 10, 10, 10}}), (Spans{{10, 1, 0, 6, 0, 1}}));
+}
+
+TEST_F(WeekNumberSpans, LeadingSundayStaysUnderAnyOtherRule) {
+  SundayFirst();
+  for (const int type : {0, 2, 3, -1}) {
+    m_board.SetWeekNumberCalcType(type);
+    EXPECT_EQ(Of({{9, 10, 10, 10, 10, 10, 10}}), (Spans{{9, 1, 10, 6, 0, 1}})) << type;
+  }
+}
+
+TEST_F(WeekNumberSpans, LeadingSundayStaysUnderAnyOtherStartDay) {
+  for (const int start : {1, 6, 7, -7}) {  // 7 is no Sunday here
+    m_board.SetStartDayOfWeek(start);
+    EXPECT_EQ(Of({{9, 10, 10, 10, 10, 10, 10}}), (Spans{{9, 1, 10, 6, 0, 1}})) << start;
+  }
+}
+
+TEST_F(WeekNumberSpans, TwoLeadingDaysDoNotGiveWay) {
+  SundayFirst();
+  EXPECT_EQ(Of({{9, 9, 10, 10, 10, 10, 10}}), (Spans{{9, 2, 10, 5, 0, 1}}));
+}
+
+// A single day of a week and nothing of a second one stays.
+TEST_F(WeekNumberSpans, LeadingSundayAloneStays) {
+  SundayFirst();
+  EXPECT_EQ(Of({{9, U, U, U, U, U, U}}), (Spans{{9, 1, 0, 0, 6, 1}}));
+}
+
+TEST_F(WeekNumberSpans, LeadingSundayGivesWayAcrossABandToo) {
+  SundayFirst();
+  EXPECT_EQ(Of({{9, 10, 10, U, U, U, U}, {U, U, U, 10, 10, 10, 10}}), (Spans{{10, 1, 0, 6, 7, 2}}));
+}
+
+TEST_F(WeekNumberSpans, FirstWeekOfANewYearWinsInOneRow) {
+  SaturdayFirst();
+  EXPECT_EQ(Of({{52, 52, 1, 1, 1, 1, 1}}), (Spans{{1, 2, 1, 5, 0, 1}}));
+  SundayFirst();
+  EXPECT_EQ(Of({{52, 1, 1, 1, 1, 1, 1}}), (Spans{{1, 1, 0, 6, 0, 1}}));
+  m_board.SetWeekNumberCalcType(0);
+  EXPECT_EQ(Of({{53, 1, 1, 1, 1, 1, 1}}), (Spans{{1, 1, 1, 6, 0, 1}}));
+}
+
+TEST_F(WeekNumberSpans, NewYearBehindABandDividesTheSpan) {
+  const std::vector<Week> weeks = {{53, 53, 53, U, U, U, U}, {U, U, U, 1, 1, 1, 1}};
+  EXPECT_EQ(Of(weeks), (Spans{{53, 3, 0, 4, 7, 1}, {1, 3, 0, 4, 7, 1}}));
+  SundayFirst();
+  EXPECT_EQ(Of(weeks), (Spans{{53, 3, 0, 4, 7, 1}, {1, 3, 0, 4, 7, 1}}));
+}
+
+// The first of the two is written as it was counted, without the Sunday's giving way.
+TEST_F(WeekNumberSpans, DividedSpanOfASundayIsNotAdjusted) {
+  SundayFirst();
+  EXPECT_EQ(Of({{52, U, U, U, U, U, U}, {U, 1, 1, 1, 1, 1, 1}}),
+            (Spans{{52, 1, 0, 6, 7, 1}, {1, 1, 0, 6, 7, 1}}));
+}
+
+TEST_F(WeekNumberSpans, TwoRowsOfTwoWeeksOfOneYearStayASpan) {
+  EXPECT_EQ(Of({{9, 9, 9, U, U, U, U}, {U, U, U, 10, 10, 10, 10}}), (Spans{{9, 3, 10, 4, 7, 2}}));
+}
+
+TEST_F(WeekNumberSpans, RowOfTwoWeeksThatEndsWithoutOneGoesOn) {
+  SaturdayFirst();
+  EXPECT_EQ(Of({{9, 9, 10, 10, U, U, U}, {U, U, U, U, 10, 10, 10}}), (Spans{{9, 2, 10, 5, 7, 2}}));
+}
+
+TEST_F(WeekNumberSpans, RowOfTwoWeeksThatEndsWithWeek0GoesOn) {
+  SaturdayFirst();
+  EXPECT_EQ(Of({{9, 9, 10, 10, 10, 10, 0}, AllOf(10)}), (Spans{{9, 2, 10, 11, 1, 2}}));
+  EXPECT_EQ(Of({{9, 9, 10, 10, 10, 10, 1}, AllOf(10)}),
+            (Spans{{9, 2, 10, 4, 0, 1}, {10, 7, 0, 0, 0, 1}}));
+}
+
+TEST_F(WeekNumberSpans, Week53AsTheSecondClosesTheRow) {
+  const std::vector<Week> weeks = {{52, 52, 53, 53, U, U, U}, {U, U, U, U, 1, 1, 1}};
+  const Spans expected = {{52, 2, 53, 2, 3, 1}, {1, 3, 0, 0, 4, 1}};
+  EXPECT_EQ(Of(weeks), expected);  // from Monday
+  SaturdayFirst();
+  EXPECT_EQ(Of(weeks), expected);
+  // Any other second week does not.
+  EXPECT_EQ(Of({{51, 51, 52, 52, U, U, U}, {U, U, U, U, 52, 52, 52}}),
+            (Spans{{51, 2, 52, 5, 7, 2}}));
+}
+
+TEST_F(WeekNumberSpans, Week53AsTheFirstDoesNotCloseTheRow) {
+  EXPECT_EQ(Of({{53, 53, U, U, U, U, U}, {U, U, 53, 53, 53, 53, 53}}),
+            (Spans{{53, 7, 0, 0, 7, 2}}));
+}
+
+TEST_F(WeekNumberSpans, StartDayOutsideTheWeekIsNotMonday) {
+  m_board.SetStartDayOfWeek(8);
+  m_board.SetWeekNumberCalcType(0);
+  EXPECT_EQ(Of({AllOf(8), {U, U, U, U, 9, 9, 9}, AllOf(10)}),
+            (Spans{{8, 7, 0, 0, 0, 1}, {9, 3, 10, 7, 4, 2}}));
+}
+
+TEST_F(WeekNumberSpans, NumbersBelow1CountAsNone) {
+  EXPECT_EQ(Of({{0, -5, 9, 9, 9, 9, 9}}), (Spans{{9, 5, 0, 0, 2, 1}}));
+  EXPECT_EQ(Of({{1, 1, 1, 1, 1, 1, 1}}), (Spans{{1, 7, 0, 0, 0, 1}}));
+}
+
+TEST_F(WeekNumberSpans, OnlyVisibleCellsAreCounted) {
+  EXPECT_EQ(Of({{9, 9, 9, 9, 9, 10, 10}}, {0, 1, 2, 3, 4}), (Spans{{9, 5, 0, 0, 0, 1}}));
+  EXPECT_EQ(Of({{8, 9, 9, 9, 9, 9, U}}, {1, 2, 3, 4, 5}), (Spans{{9, 5, 0, 0, 0, 1}}));
+}
+
+// With the columns 2 to 6 visible, the cell asked for the end of the row is that of column 4.
+TEST_F(WeekNumberSpans, EndOfTheRowIsTheBoardColumnOfTheVisibleCount) {
+  const std::vector<int> columns = {2, 3, 4, 5, 6};
+  // Column 4 has no week although the last visible cell has one: the row goes on.
+  EXPECT_EQ(Of({AllOf(8), {U, U, U, U, U, 9, 9}, AllOf(10)}, columns),
+            (Spans{{8, 5, 0, 0, 0, 1}, {9, 2, 10, 5, 3, 2}}));
+  // Column 4 has one although the last visible cell has none: the row stands alone.
+  EXPECT_EQ(Of({AllOf(8), {9, 9, 9, 9, 9, U, U}, AllOf(10)}, columns),
+            (Spans{{8, 5, 0, 0, 0, 1}, {9, 3, 0, 0, 2, 1}, {10, 5, 0, 0, 0, 1}}));
+  // One visible column asks column 0.
+  EXPECT_EQ(Of({AllOf(8), {9, U, U, U, U, U, U}, {U, U, U, U, U, U, 9}}, {6}),
+            (Spans{{8, 1, 0, 0, 0, 1}, {9, 1, 0, 0, 1, 2}}));
+}
+
+TEST_F(WeekNumberSpans, HiddenRowsAreSkipped) {
+  Of({AllOf(8), AllOf(U), AllOf(9)});
+  m_board.m_visibleRows[1] = 2;
+  m_board.m_visibleRowCount = 2;
+  m_board._CalcRowSpanByWeekNumber();
+  EXPECT_EQ(m_board.m_weekNumberSpans, (Spans{{8, 7, 0, 0, 0, 1}, {9, 7, 0, 0, 0, 1}}));
+}
+
+TEST_F(WeekNumberSpans, NoVisibleColumnNoSpan) {
+  m_board.SetShowBreakDayOfWeek(false);
+  for (int day = 0; day <= 6; ++day) {
+    m_board.SetBreakDayOfWeek(day, true);
+  }
+  m_board.BuildQuietly(2024, 3, 13);
+  EXPECT_EQ(m_board.m_weekNumberSpans, Spans{});
+}
+
+// Built boards.
+class SpansOfBoards : public testing::Test {
+ protected:
+  SpansOfBoards() { almara_test::SetToday(2030, 7, 17); }
+
+  Spans Build(int year, int month, int day) {
+    m_board.BuildQuietly(year, month, day);
+    return m_board.m_weekNumberSpans;
+  }
+
+  Board m_board;
+};
+
+TEST_F(SpansOfBoards, DefaultBoardWithABandRowAtItsEnd) {
+  EXPECT_EQ(
+      Build(2024, 3, 13),
+      (Spans{{10, 7, 0, 0, 0, 1}, {11, 7, 0, 0, 0, 1}, {12, 7, 0, 0, 0, 1}, {13, 7, 0, 0, 0, 2}}));
+}
+
+TEST_F(SpansOfBoards, WeekCutByMarch) {
+  EXPECT_EQ(
+      Build(2024, 2, 28),
+      (Spans{{8, 7, 0, 0, 0, 1}, {9, 7, 0, 0, 7, 2}, {10, 7, 0, 0, 0, 1}, {11, 7, 0, 0, 0, 1}}));
+}
+
+TEST_F(SpansOfBoards, SundaysGiveWayToTheirRows) {
+  m_board.SetStartDayOfWeek(0);
+  m_board.SetShowMonthInterval(false);
+  EXPECT_EQ(Build(2024, 3, 13), (Spans{{10, 1, 0, 6, 0, 1},
+                                       {11, 1, 0, 6, 0, 1},
+                                       {12, 1, 0, 6, 0, 1},
+                                       {13, 1, 0, 6, 0, 1},
+                                       {14, 1, 0, 6, 0, 1}}));
+}
+
+TEST_F(SpansOfBoards, SaturdaysDoNot) {
+  m_board.SetStartDayOfWeek(6);
+  m_board.SetShowMonthInterval(false);
+  m_board.SetMaxRows(2);
+  EXPECT_EQ(Build(2024, 3, 13), (Spans{{9, 2, 10, 5, 0, 1}, {10, 2, 11, 5, 0, 1}}));
+}
+
+// The year 2025 begins in the middle of a week.
+TEST_F(SpansOfBoards, NewYearWithoutABandIsAWholeIsoWeek) {
+  m_board.SetShowMonthInterval(false);
+  m_board.SetMaxRows(2);
+  EXPECT_EQ(Build(2025, 1, 1), (Spans{{52, 7, 0, 0, 0, 1}, {1, 7, 0, 0, 0, 1}}));
+}
+
+TEST_F(SpansOfBoards, NewYearBehindABandCountedFrom1January) {
+  m_board.SetWeekNumberCalcType(0);
+  m_board.SetMaxRows(3);
+  EXPECT_EQ(Build(2025, 1, 1),
+            (Spans{{52, 7, 0, 0, 0, 1}, {53, 2, 0, 5, 7, 1}, {1, 2, 0, 5, 7, 1}}));
+}
+
+}  // namespace

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "date/calendar_platform_api.h"
+#include "logic/calendar_logic.h"
+
+namespace {
+
+constexpr int kMin = std::numeric_limits<int>::min();
+constexpr int kMax = std::numeric_limits<int>::max();
+
+// The engine with its memos in sight.
+class Engine : public CCalendarLogic {
+ public:
+  using CCalendarLogic::m_map24SekkiCache;
+  using CCalendarLogic::m_mapFestivalLunarCache;
+  using CCalendarLogic::m_mapFestivalSolarCache;
+  using CCalendarLogic::m_mapLunarDateCache;
+};
+
+class AnnotationMemo : public testing::Test {
+ protected:
+  AnnotationMemo() { g_mac_timezone = 8; }
+
+  Engine engine;
+};
+
+TEST_F(AnnotationMemo, StartsEmpty) {
+  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 0U);
+  EXPECT_EQ(engine.m_map24SekkiCache.Size(), 0U);
+  EXPECT_EQ(engine.m_mapFestivalSolarCache.Size(), 0U);
+  EXPECT_EQ(engine.m_mapFestivalLunarCache.Size(), 0U);
+}
+
+TEST_F(AnnotationMemo, KeepsALunarDateUnderItsDate) {
+  const CCalendarLunarDate first = engine.ConverterLunar({2024, 2, 10, 0});
+  ASSERT_EQ(engine.m_mapLunarDateCache.Size(), 1U);
+  EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {2024, 2, 10, 0}), nullptr);
+
+  const CCalendarLunarDate second = engine.ConverterLunar({2024, 2, 10, 0});
+  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 1U);
+  EXPECT_EQ(second.year, first.year);
+  EXPECT_EQ(second.month, first.month);
+  EXPECT_EQ(second.day, first.day);
+}
+
+TEST_F(AnnotationMemo, ASecondQueryComputesNothing) {
+  const CCalendarSolarDate date{2024, 2, 10, 6};
+  engine.m_mapLunarDateCache.GetOrCompute(0, date, [] {
+    return CCalendarLunarDate{1, 2, 3, 4, 5};
+  });
+  engine.m_map24SekkiCache.GetOrCompute(0, date, [] { return 77; });
+  engine.m_mapFestivalSolarCache.GetOrCompute(1, date, [] { return 78; });
+  engine.m_mapFestivalLunarCache.GetOrCompute(1, date, [] { return 79; });
+  EXPECT_EQ(engine.ConverterLunar(date).day, 3);
+  EXPECT_EQ(engine.Check24Sekki(date), 77);
+  EXPECT_EQ(engine.CheckFestivalSolar(1, date), 78);
+  EXPECT_EQ(engine.CheckFestivalLunar(1, date), 79);
+}
+
+TEST_F(AnnotationMemo, TheDayOfTheWeekIsNotPartOfTheKey) {
+  engine.Check24Sekki({2024, 3, 20, 4});
+  engine.Check24Sekki({2024, 3, 20, 0});
+  EXPECT_EQ(engine.m_map24SekkiCache.Size(), 1U);
+  EXPECT_EQ(*engine.m_map24SekkiCache.Find(0, {2024, 3, 20, 1}), eSekkiSpringEquinox);
+}
+
+TEST_F(AnnotationMemo, KeepsAFestivalForEachLanguage) {
+  engine.CheckFestivalSolar(1, {2024, 1, 1, 0});
+  engine.CheckFestivalSolar(8, {2024, 1, 1, 0});
+  ASSERT_EQ(engine.m_mapFestivalSolarCache.Size(), 2U);
+  EXPECT_NE(engine.m_mapFestivalSolarCache.Find(1, {2024, 1, 1, 0}), nullptr);
+  EXPECT_NE(engine.m_mapFestivalSolarCache.Find(8, {2024, 1, 1, 0}), nullptr);
+}
+
+TEST_F(AnnotationMemo, KeepsTheAnswerThatThereIsNone) {
+  engine.CheckFestivalSolar(1, {2024, 1, 9, 0});
+  engine.CheckFestivalLunar(3, {2024, 1, 9, 0});
+  engine.Check24Sekki({2024, 1, 9, 0});
+  EXPECT_EQ(*engine.m_mapFestivalSolarCache.Find(1, {2024, 1, 9, 0}), 0);
+  EXPECT_EQ(*engine.m_mapFestivalLunarCache.Find(3, {2024, 1, 9, 0}), 0);
+  EXPECT_EQ(*engine.m_map24SekkiCache.Find(0, {2024, 1, 9, 0}), -1);
+}
+
+TEST_F(AnnotationMemo, KeysOfUnusualDates) {
+  engine.ConverterLunar({987, 3, 5, 0});
+  engine.ConverterLunar({-1, 1, 1, 0});
+  EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {987, 3, 5, 0}), nullptr);
+  EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {-1, 1, 1, 0}), nullptr);
+}
+
+TEST_F(AnnotationMemo, KeepsEveryInt) {
+  engine.CheckFestivalSolar(kMin, {kMin, kMin, kMin, kMin});
+  engine.CheckFestivalLunar(kMax, {kMax, kMax, kMax, kMax});
+  EXPECT_NE(engine.m_mapFestivalSolarCache.Find(kMin, {kMin, kMin, kMin, 0}), nullptr);
+  EXPECT_NE(engine.m_mapFestivalLunarCache.Find(kMax, {kMax, kMax, kMax, 0}), nullptr);
+}
+
+TEST_F(AnnotationMemo, DaysThatShareAPageKeepTheirOwnAnswers) {
+  engine.CheckFestivalSolar(1, {2024, 1, 33, 0});
+  EXPECT_EQ(engine.m_mapFestivalSolarCache.Find(1, {2024, 1, 1, 0}), nullptr);
+  EXPECT_EQ(engine.CheckFestivalSolar(1, {2024, 1, 1, 0}), eFestivalSolarNewYearsDay);
+  EXPECT_EQ(engine.CheckFestivalSolar(1, {2024, 1, 33, 0}), eFestivalSolarNone);
+  EXPECT_EQ(engine.CheckFestivalSolar(1, {2024, 1, -31, 0}), eFestivalSolarNone);
+  EXPECT_EQ(engine.m_mapFestivalSolarCache.Size(), 3U);
+}
+
+TEST_F(AnnotationMemo, ALunarFestivalKeepsTheLunarDateToo) {
+  engine.CheckFestivalLunar(eLanguageChs, {2024, 5, 1, 0});
+  EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {2024, 5, 1, 0}), nullptr);
+  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 1U);
+}
+
+TEST_F(AnnotationMemo, ADayOfMonthTwelveKeepsTheLunarDateOfTheNextDay) {
+  engine.CheckFestivalLunar(eLanguageChs, {2024, 2, 5, 0});
+  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 2U);
+  EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {2024, 2, 6, 0}), nullptr);
+  // 12/23 has a festival of its own, and in Korean there is no eve.
+  engine.CheckFestivalLunar(eLanguageChs, {2024, 2, 2, 0});
+  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 3U);
+  engine.CheckFestivalLunar(eLanguageKor, {2024, 1, 30, 0});
+  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 4U);
+}
+
+TEST_F(AnnotationMemo, OtherLanguagesDoNotAskForLunarDates) {
+  for (const ELanguage language : {0, 3, 5, 6, 7, 8, 10, 11}) {
+    engine.CheckFestivalLunar(language, {2024, 2, 10, 0});
+  }
+  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 0U);
+  EXPECT_EQ(engine.m_mapFestivalLunarCache.Size(), 8U);
+}
+
+TEST_F(AnnotationMemo, AnswersOutliveAChangeOfTheZone) {
+  EXPECT_EQ(engine.ConverterLunar({2024, 2, 9, 0}).month, 12);
+  EXPECT_EQ(engine.Check24Sekki({2024, 6, 21, 0}), eSekkiSummerSolstice);
+  EXPECT_EQ(engine.CheckFestivalLunar(eLanguageChs, {2024, 2, 9, 0}), eFestivalLunarNewYearsEve);
+  g_mac_timezone = 0;
+  EXPECT_EQ(engine.ConverterLunar({2024, 2, 9, 0}).month, 12);
+  EXPECT_EQ(engine.Check24Sekki({2024, 6, 21, 0}), eSekkiSummerSolstice);
+  EXPECT_EQ(engine.CheckFestivalLunar(eLanguageChs, {2024, 2, 9, 0}), eFestivalLunarNewYearsEve);
+  // Another engine has answers of its own.
+  EXPECT_EQ(Engine().ConverterLunar({2024, 2, 9, 0}).month, 1);
+}
+
+TEST_F(AnnotationMemo, BuildsAndOptionsLeaveItAlone) {
+  engine.ConverterLunar({2024, 2, 9, 0});
+  engine.SetMaxRows(3);
+  testing::internal::CaptureStdout();
+  engine.InitCalendarLogic(eLanguageKor);
+  engine.GotoNextPage();
+  testing::internal::GetCapturedStdout();
+  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 1U);
+}
+
+}  // namespace

@@ -1,0 +1,736 @@
+// SPDX-License-Identifier: MIT
+//
+// Navigation and queries of the engine.
+#include "logic/calendar_logic.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+
+#include "date/calendar_platform_api.h"
+#include "support/board.h"
+#include "support/capture_stdout.h"
+#include "support/clock.h"
+
+using almara_test::Board;
+using almara_test::CaptureStdout;
+using almara_test::SetToday;
+
+namespace {
+
+constexpr int kMin = std::numeric_limits<int>::min();
+constexpr int kMax = std::numeric_limits<int>::max();
+constexpr int kRolling = eDispMonthRollingWeeks;
+constexpr int kTail = eDispMonthRollingTail;
+constexpr int kMonth = eDispMonthWholeMonth;
+constexpr int kStrip = eDispMonthDayStrip;
+
+std::string Date(const CCalendarSolarDate& d) {
+  return std::to_string(d.year) + "-" + std::to_string(d.month) + "-" + std::to_string(d.day);
+}
+
+class Logic : public testing::Test {
+ protected:
+  Logic() { SetToday(2024, 3, 13); }
+
+  std::string Focus() const { return Date(m_engine.GetContentDate()); }
+  std::string First() const { return Date(m_engine.m_firstDateItem.GetDate()); }
+  std::string Last() const { return Date(m_engine.m_lastDateItem.GetDate()); }
+  int Direction() const { return m_engine.m_pageDirection; }
+
+  // What was written in front of the text of the board.
+  std::string Trace() {
+    const std::string text = m_output.Take();
+    return text.substr(0, text.find('\n'));
+  }
+
+  Board m_engine;
+  CaptureStdout m_output;
+};
+
+TEST_F(Logic, FreshEngineIsEmpty) {
+  EXPECT_EQ(m_engine.GetContentRows(), 0);
+  EXPECT_EQ(m_engine.GetContentColumns(), 0);
+  EXPECT_EQ(m_engine.GetWeekNumberCount(), 0);
+  EXPECT_EQ(Focus(), "0-0-0");
+  EXPECT_FALSE(m_engine.IsTodayInBoard());
+  EXPECT_EQ(Direction(), 0);
+  EXPECT_EQ(m_engine.m_todayColumn, -1);
+  EXPECT_EQ(m_output.Take(), "");
+}
+
+struct LanguageCase {
+  int language;
+  int zone;  // 0 where the language sets none
+};
+
+constexpr LanguageCase kLanguages[] = {{1, 8},  {2, 9},  {3, 0},    {4, 8},   {5, 0}, {6, 0},
+                                       {7, 9},  {8, 0},  {9, 0},    {10, 0},  {0, 0}, {-1, 0},
+                                       {11, 0}, {33, 0}, {kMin, 0}, {kMax, 0}};
+
+TEST_F(Logic, LanguageSetsTheZoneOfFourRegions) {
+  for (const LanguageCase& c : kLanguages) {
+    g_mac_timezone = 5;
+    m_engine.InitCalendarLogic(c.language);
+    EXPECT_EQ(g_mac_timezone, c.zone != 0 ? c.zone : 5) << c.language;
+  }
+}
+
+TEST_F(Logic, LanguageWithoutAZoneTakesTheMachinesOnceOnly) {
+  g_mac_timezone = kTimeZoneUnknown;
+  m_engine.InitCalendarLogic(eLanguageUsa);
+  EXPECT_EQ(g_mac_timezone, 0);  // the tests run in UTC
+  m_engine.InitCalendarLogic(eLanguageJpn);
+  EXPECT_EQ(g_mac_timezone, 9);
+  m_engine.InitCalendarLogic(eLanguageUsa);
+  EXPECT_EQ(g_mac_timezone, 9);
+}
+
+TEST_F(Logic, InitBuildsTodaysBoardWithoutADirection) {
+  m_engine.m_pageDirection = ePageDirectionBackward;
+  m_engine.InitCalendarLogic(eLanguageEng);
+  EXPECT_EQ(Focus(), "2024-3-13");
+  EXPECT_EQ(Direction(), 0);
+  EXPECT_EQ(m_engine.GetContentRows(), 5);
+  EXPECT_EQ(m_engine.GetContentColumns(), 7);
+  EXPECT_TRUE(m_engine.IsTodayInBoard());
+}
+
+TEST_F(Logic, BuildReturnsToTodayAfterPagingAway) {
+  m_engine.GotoToday();
+  m_engine.GotoNextPage();
+  m_engine.GotoNextPage();
+  EXPECT_FALSE(m_engine.IsTodayInBoard());
+  m_engine.Build();
+  EXPECT_EQ(Focus(), "2024-3-13");
+  EXPECT_EQ(Direction(), 0);
+  EXPECT_TRUE(m_engine.IsTodayInBoard());
+}
+
+TEST_F(Logic, BuildBeforeAnyOtherBuildShowsToday) {
+  m_engine.Build();
+  EXPECT_EQ(Focus(), "2024-3-13");
+}
+
+TEST_F(Logic, BuildKeepsTheDirectionWhenTheFocusIsToday) {
+  m_engine.GotoSpecifiedDate(2024, 6, 1);
+  m_engine.GotoSpecifiedDate(2024, 3, 13);  // before the board: its last row
+  ASSERT_EQ(Direction(), 1);
+  m_engine.Build();
+  EXPECT_EQ(Direction(), 1);
+  EXPECT_EQ(Last(), "2024-3-17");
+  m_engine.GotoToday();
+  EXPECT_EQ(Direction(), 0);
+  m_engine.Build();
+  EXPECT_EQ(Direction(), 0);
+}
+
+TEST_F(Logic, GotoTodayDropsTheDirection) {
+  m_engine.GotoToday();
+  for (int page = 0; page < 2; ++page) {
+    m_engine.GotoPreviousPage();
+    ASSERT_EQ(Direction(), 1);
+    m_engine.GotoToday();
+    EXPECT_EQ(Direction(), 0);
+    EXPECT_EQ(Focus(), "2024-3-13");
+  }
+}
+
+TEST_F(Logic, RollingWeeksPageByTheDaysShown) {
+  m_engine.GotoToday();
+  ASSERT_EQ(First(), "2024-3-4");
+  m_engine.GotoPreviousPage();
+  EXPECT_EQ(Focus(), "2024-3-3");
+  EXPECT_EQ(Direction(), 1);
+  EXPECT_EQ(Last(), "2024-3-3");
+  EXPECT_EQ(First(), "2024-2-5");
+  m_engine.GotoNextPage();
+  EXPECT_EQ(Focus(), "2024-3-4");
+  EXPECT_EQ(Direction(), 2);
+  EXPECT_EQ(First(), "2024-3-4");
+  EXPECT_EQ(Last(), "2024-3-31");  // the fifth row is the band of April
+  m_engine.GotoNextPage();
+  EXPECT_EQ(First(), "2024-4-1");
+}
+
+TEST_F(Logic, PagesOfRollingWeeksFollowEachOtherWithoutGap) {
+  for (const int rows : {1, 2, 5, 6, 8}) {
+    for (const bool interval : {true, false}) {
+      m_engine.SetMaxRows(rows);
+      m_engine.SetShowMonthInterval(interval);
+      m_engine.GotoToday();
+      for (int page = 0; page < 30; ++page) {
+        const std::string last = Last();
+        if (last == "0-0-0") {
+          break;  // a page of one row may be a band without a day
+        }
+        m_engine.GotoNextPage();
+        const CCalendarSolarDate focus = m_engine.GetContentDate();
+        EXPECT_EQ(Date(CalendarPlatformApi::GetNewDateByOffsetDays(focus, -1)), last);
+      }
+    }
+  }
+}
+
+TEST_F(Logic, StripPagesByItsDays) {
+  m_engine.SetDispMonth(kStrip);
+  m_engine.GotoToday();
+  ASSERT_EQ(First(), "2024-3-10");
+  m_engine.GotoPreviousPage();
+  EXPECT_EQ(First(), "2024-3-3");
+  EXPECT_EQ(Last(), "2024-3-9");
+  EXPECT_EQ(Direction(), 1);
+  m_engine.GotoNextPage();
+  EXPECT_EQ(First(), "2024-3-10");
+  EXPECT_EQ(Last(), "2024-3-16");
+  EXPECT_EQ(Direction(), 2);
+}
+
+TEST_F(Logic, MonthsPageToTheFirstOfTheMonth) {
+  for (const int mode : {kTail, kMonth}) {
+    m_engine.SetDispMonth(mode);
+    m_engine.GotoToday();
+    m_engine.GotoSpecifiedDate(2024, 3, 15);
+    m_engine.m_pageDirection = 0;
+    m_engine.GotoPreviousPage();
+    EXPECT_EQ(Focus(), "2024-2-1");
+    m_engine.GotoPreviousPage();
+    EXPECT_EQ(Focus(), "2024-1-1");
+    m_engine.GotoPreviousPage();
+    EXPECT_EQ(Focus(), "2023-12-1");
+    m_engine.GotoNextPage();
+    EXPECT_EQ(Focus(), "2024-1-1");
+    m_engine.GotoNextPage();
+    EXPECT_EQ(Focus(), "2024-2-1");
+  }
+}
+
+TEST_F(Logic, MonthsPageAcrossTheYears) {
+  m_engine.SetDispMonth(kMonth);
+  m_engine.GotoSpecifiedDate(2024, 1, 15);
+  m_engine.GotoPreviousPage();
+  EXPECT_EQ(Focus(), "2023-12-1");
+  m_engine.GotoSpecifiedDate(2024, 12, 15);
+  m_engine.GotoNextPage();
+  EXPECT_EQ(Focus(), "2025-1-1");
+  m_engine.GotoSpecifiedDate(2024, 11, 30);
+  m_engine.GotoNextPage();
+  EXPECT_EQ(Focus(), "2024-12-1");
+}
+
+TEST_F(Logic, MonthStepsOnTheirOwnMoveTheSameWay) {
+  m_engine.SetDispMonth(kMonth);
+  m_engine.GotoSpecifiedDate(2024, 1, 15);
+  m_engine._GotoPreviousMonth();
+  EXPECT_EQ(Focus(), "2023-12-1");
+  m_engine._GotoNextMonth();
+  EXPECT_EQ(Focus(), "2024-1-1");
+  EXPECT_EQ(Direction(), 0);
+}
+
+TEST_F(Logic, PagingByMonthsKeepsTheDirection) {
+  for (const int mode : {kTail, kMonth}) {
+    for (const int direction : {0, 1, 2}) {
+      m_engine.SetDispMonth(mode);
+      m_engine.GotoToday();
+      m_engine.m_pageDirection = direction;
+      m_engine.GotoPreviousPage();
+      EXPECT_EQ(Direction(), direction);
+      m_engine.GotoNextPage();
+      EXPECT_EQ(Direction(), direction);
+    }
+  }
+}
+
+TEST_F(Logic, ModesWithoutABoardPageByDays) {
+  for (const int mode : {0, 5, -1, kMin, kMax}) {
+    m_engine.SetDispMonth(mode);
+    m_engine.GotoToday();
+    m_engine.GotoPreviousPage();
+    EXPECT_EQ(Direction(), 1) << mode;
+    m_engine.GotoNextPage();
+    EXPECT_EQ(Direction(), 2) << mode;
+  }
+}
+
+TEST_F(Logic, RollingTailAfterPagingRollingWeeksHasNoRowsUntilToday) {
+  m_engine.GotoToday();
+  m_engine.GotoNextPage();
+  m_engine.SetDispMonth(kTail);
+  m_engine.GotoNextPage();
+  EXPECT_EQ(m_engine.GetContentRows(), 0);
+  EXPECT_EQ(Focus(), "2024-5-1");
+  m_engine.GotoPreviousPage();
+  EXPECT_EQ(m_engine.GetContentRows(), 0);
+  m_engine.GotoToday();
+  EXPECT_EQ(m_engine.GetContentRows(), 5);
+}
+
+TEST_F(Logic, PagingAtTheEndsOfTheYearsLeavesTheBoard) {
+  m_engine.SetDispMonth(kMonth);
+  m_engine.GotoSpecifiedDate(1900, 1, 20);
+  m_engine.GotoPreviousPage();
+  EXPECT_EQ(Focus(), "1900-1-20");
+  m_engine.GotoSpecifiedDate(2099, 12, 20);
+  m_engine.GotoNextPage();
+  EXPECT_EQ(Focus(), "2099-12-20");
+
+  m_engine.SetDispMonth(kRolling);
+  m_engine.GotoToday();
+  m_engine.GotoSpecifiedDate(1900, 1, 1);
+  const std::string first = First();
+  m_engine.GotoPreviousPage();  // 1899
+  EXPECT_EQ(Focus(), "1900-1-1");
+  EXPECT_EQ(First(), first);
+  EXPECT_EQ(Direction(), 1);
+  m_engine.GotoToday();
+  m_engine.GotoSpecifiedDate(2099, 12, 31);
+  m_engine.GotoNextPage();
+  EXPECT_EQ(Focus(), "2099-12-31");
+  EXPECT_EQ(Direction(), 2);
+}
+
+TEST_F(Logic, PagingBeforeTheFirstBuildLeavesTheBoardEmpty) {
+  for (const int mode : {kRolling, kTail, kMonth, kStrip}) {
+    m_engine.SetDispMonth(mode);
+    m_engine.GotoPreviousPage();
+    EXPECT_EQ(m_engine.GetContentRows(), 0) << mode;
+    EXPECT_EQ(Focus(), "0-0-0") << mode;
+    m_engine.GotoNextPage();
+    EXPECT_EQ(m_engine.GetContentRows(), 0) << mode;
+    EXPECT_EQ(Focus(), "0-0-0") << mode;
+  }
+}
+
+TEST_F(Logic, DateInsideBeforeOrBehindTheBoardSetsTheDirection) {
+  m_engine.SetShowMonthInterval(false);
+  struct {
+    int year, month, day, direction;
+  } const cases[] = {
+      {2024, 3, 20, 0},  {2024, 2, 10, 1}, {2024, 4, 8, 2},  {2024, 3, 4, 0},  // the first day
+      {2024, 3, 3, 1},   {2024, 4, 7, 0},                                      // the last day
+      {2023, 12, 31, 1}, {2025, 1, 1, 2},  {2023, 5, 20, 1},  // the year before the month
+      {2025, 3, 20, 2},
+  };
+  for (const auto& c : cases) {
+    m_engine.GotoToday();
+    ASSERT_EQ(First(), "2024-3-4");
+    ASSERT_EQ(Last(), "2024-4-7");
+    m_engine.GotoSpecifiedDate(c.year, c.month, c.day);
+    EXPECT_EQ(Direction(), c.direction) << c.year << '-' << c.month << '-' << c.day;
+  }
+}
+
+TEST_F(Logic, DatesAreComparedAsTheyAreGiven) {
+  m_engine.SetShowMonthInterval(false);
+  m_engine.SetPassedWeeks(0);
+  m_engine.SetMaxRows(1);
+  SetToday(2024, 2, 28);
+  m_engine.SetMaxRows(1);
+  m_engine.SetDispMonth(kStrip);
+  m_engine.SetMaxColumns(3);
+  m_engine.GotoToday();
+  ASSERT_EQ(Last(), "2024-2-29");
+  m_engine.GotoSpecifiedDate(2024, 2, 31);  // behind 29 February
+  EXPECT_EQ(Direction(), 2);
+  EXPECT_EQ(First(), "2024-3-2");
+
+  SetToday(2024, 3, 2);
+  m_engine.GotoToday();
+  ASSERT_EQ(First(), "2024-3-1");
+  m_engine.GotoSpecifiedDate(2024, 2, 31);  // before 1 March, although it is the 2nd
+  EXPECT_EQ(Direction(), 1);
+  EXPECT_EQ(Last(), "2024-3-2");
+}
+
+TEST_F(Logic, DateInAWholeMonthKeepsTheDirection) {
+  m_engine.SetDispMonth(kMonth);
+  for (const int direction : {0, 1, 2}) {
+    m_engine.m_pageDirection = direction;
+    m_engine.GotoSpecifiedDate(2024, 3, 13);
+    EXPECT_EQ(Direction(), direction);
+    m_engine.GotoSpecifiedDate(2020, 1, 1);
+    EXPECT_EQ(Direction(), direction);
+  }
+}
+
+TEST_F(Logic, DateInARollingTailSetsTheDirection) {
+  m_engine.SetDispMonth(kTail);
+  m_engine.GotoToday();
+  m_engine.GotoSpecifiedDate(2024, 3, 31);
+  EXPECT_EQ(Direction(), 0);
+  EXPECT_EQ(m_engine.GetContentRows(), 5);
+  m_engine.GotoSpecifiedDate(2024, 5, 1);  // not on the board: no rows
+  EXPECT_EQ(Direction(), 2);
+  EXPECT_EQ(m_engine.GetContentRows(), 0);
+}
+
+TEST_F(Logic, RejectedDateKeepsTheBoardButSetsTheDirection) {
+  m_engine.GotoToday();
+  m_engine.GotoSpecifiedDate(2100, 1, 1);
+  EXPECT_EQ(Focus(), "2024-3-13");
+  EXPECT_EQ(First(), "2024-3-4");
+  EXPECT_EQ(Direction(), 2);
+  m_engine.GotoSpecifiedDate(1899, 12, 31);
+  EXPECT_EQ(Focus(), "2024-3-13");
+  EXPECT_EQ(Direction(), 1);
+}
+
+TEST_F(Logic, AllZeroDateIsToday) {
+  m_engine.GotoToday();
+  m_engine.GotoSpecifiedDate(2025, 1, 1);
+  m_engine.GotoSpecifiedDate(0, 0, 0);
+  EXPECT_EQ(Focus(), "2024-3-13");
+  EXPECT_EQ(Direction(), 0);
+}
+
+TEST_F(Logic, FirstDateOfAFreshEngineOpensTheBoard) {
+  m_engine.GotoSpecifiedDate(2024, 3, 27);
+  EXPECT_EQ(Direction(), 2);
+  EXPECT_EQ(First(), "2024-3-27");
+}
+
+TEST_F(Logic, OffsetOfPagesIsCountedInWeeksOfMaxRows) {
+  SetToday(2024, 3, 10);
+  m_engine.m_pageDirection = ePageDirectionForward;
+  m_engine.GotoTodayOffsetMonth(1);
+  EXPECT_EQ(Trace(), "build-logic 2024-4-14");
+  EXPECT_EQ(Focus(), "2024-4-14");
+  EXPECT_EQ(Direction(), 0);
+  m_engine.GotoTodayOffsetMonth(-1);
+  EXPECT_EQ(Trace(), "build-logic 2024-2-4");
+  m_engine.GotoTodayOffsetMonth(0);
+  EXPECT_EQ(Trace(), "build-logic 2024-3-10");
+  m_engine.SetMaxRows(8);
+  m_engine.GotoTodayOffsetMonth(-2);
+  EXPECT_EQ(Trace(), "build-logic 2023-11-19");
+  m_engine.SetMaxRows(0);
+  m_engine.GotoTodayOffsetMonth(9);
+  EXPECT_EQ(Trace(), "build-logic 2024-3-10");
+  m_engine.SetMaxRows(-1);
+  m_engine.GotoTodayOffsetMonth(1);
+  EXPECT_EQ(Trace(), "build-logic 2024-3-3");
+}
+
+TEST_F(Logic, OffsetCountsInWeeksInRollingTailAndStripToo) {
+  SetToday(2024, 3, 10);
+  for (const int mode : {kTail, kStrip, 0, 5}) {
+    m_engine.SetDispMonth(mode);
+    m_engine.m_pageDirection = ePageDirectionBackward;
+    m_engine.GotoTodayOffsetMonth(1);
+    EXPECT_EQ(Trace(), "build-logic 2024-4-14") << mode;
+    EXPECT_EQ(Direction(), 0) << mode;
+  }
+}
+
+TEST_F(Logic, OffsetOfDaysAndTheirSecondsWrapAt32Bits) {
+  m_engine.SetDispMonth(kStrip);
+  struct {
+    int rows, offset;
+    const char* trace;
+  } const cases[] = {
+      {1, 3550, "build-logic 2092-3-26"},     // 24850 days: their seconds fit
+      {1, 3551, "build-logic 1956-2-25"},     // 24857 days: they wrap
+      {1, -3551, "build-logic 2092-3-29"},    //
+      {kMax, kMax, "build-logic 2024-3-20"},  // 7 days
+      {kMin, 2, "build-logic 2024-3-13"},     // 0 days
+  };
+  for (const auto& c : cases) {
+    m_engine.SetMaxRows(c.rows);
+    m_engine.GotoTodayOffsetMonth(c.offset);
+    EXPECT_EQ(Trace(), c.trace) << c.rows << " rows, offset " << c.offset;
+  }
+}
+
+TEST_F(Logic, OffsetOfMonthsKeepsTheDayOrTakesTheMonthsLast) {
+  m_engine.SetDispMonth(kMonth);
+  SetToday(2024, 3, 31);
+  struct {
+    int offset;
+    const char* date;
+  } const cases[] = {{-1, "2024-2-29"},  {11, "2025-2-28"},  {0, "2024-3-31"},
+                     {1, "2024-4-30"},   {2, "2024-5-31"},   {9, "2024-12-31"},
+                     {10, "2025-1-31"},  {-2, "2024-1-31"},  {-3, "2023-12-31"},
+                     {-4, "2023-11-30"}, {-14, "2023-1-31"}, {-15, "2022-12-31"},
+                     {21, "2025-12-31"}, {22, "2026-1-31"},  {-25, "2022-2-28"}};
+  for (const auto& c : cases) {
+    m_engine.GotoTodayOffsetMonth(c.offset);
+    EXPECT_EQ(Trace(), c.date);
+    EXPECT_EQ(Focus(), c.date);
+  }
+}
+
+TEST_F(Logic, OffsetOfMonthsFromJanuaryCrossesTheYearsBackward) {
+  m_engine.SetDispMonth(kMonth);
+  SetToday(2024, 1, 15);
+  m_engine.GotoTodayOffsetMonth(-1);
+  EXPECT_EQ(Trace(), "2023-12-15");
+  m_engine.GotoTodayOffsetMonth(-12);
+  EXPECT_EQ(Trace(), "2023-1-15");
+  m_engine.GotoTodayOffsetMonth(-13);
+  EXPECT_EQ(Trace(), "2022-12-15");
+}
+
+TEST_F(Logic, OffsetOfMonthsKeepsTheDirection) {
+  m_engine.SetDispMonth(kMonth);
+  for (const int direction : {0, 1, 2}) {
+    m_engine.m_pageDirection = direction;
+    m_engine.GotoTodayOffsetMonth(3);
+    EXPECT_EQ(Direction(), direction);
+  }
+}
+
+// No month has a length out there, so its day is -1.
+TEST_F(Logic, OffsetToAMonthOutsideTheYearsPrintsDayMinus1AndKeepsTheBoard) {
+  m_engine.SetDispMonth(kMonth);
+  struct {
+    int offset;
+    const char* trace;
+    const char* focus;
+  } const cases[] = {{909, "2099-12-13", "2099-12-13"},
+                     {910, "2100-1--1", "2099-12-13"},
+                     {2032, "2193-7--1", "2099-12-13"},
+                     {-1490, "1900-1-13", "1900-1-13"},
+                     {-1491, "1899-12--1", "1900-1-13"}};
+  for (const auto& c : cases) {
+    m_engine.GotoTodayOffsetMonth(c.offset);
+    EXPECT_EQ(Trace(), c.trace);
+    EXPECT_EQ(Focus(), c.focus);
+  }
+}
+
+TEST_F(Logic, OffsetOfMonthsTakesEveryInt) {
+  m_engine.SetDispMonth(kMonth);
+  m_engine.GotoTodayOffsetMonth(2147483644);
+  EXPECT_EQ(Trace(), "178958994-7--1");  // 3 + 2147483644 still fits
+  m_engine.GotoTodayOffsetMonth(kMin);
+  EXPECT_EQ(Trace(), "-178954947-7--1");
+  m_engine.GotoTodayOffsetMonth(kMax);  // the sum wraps
+  EXPECT_EQ(Trace(), "-178954947-6--1");
+  EXPECT_EQ(Focus(), "0-0-0");
+}
+
+TEST_F(Logic, TraceStandsBeforeTheTextOfTheBoardWithoutALineEnd) {
+  m_engine.SetMaxRows(1);
+  m_engine.GotoTodayOffsetMonth(0);
+  EXPECT_EQ(m_output.Take(),
+            "build-logic 2024-3-13\n\n\n\n\n"
+            "weeknumber = 10\t(3)2024-03-04\t(3)2024-03-05\t(3)2024-03-06\t(3)2024-03-07"
+            "\t(3)2024-03-08\t(5)2024-03-09\t(5)2024-03-10\n"
+            "\n\n\n\n\n");
+  m_engine.SetDispMonth(kMonth);
+  m_engine.GotoTodayOffsetMonth(0);
+  const std::string text = m_output.Take();
+  EXPECT_EQ(text.substr(0, 28), "2024-3-13\n\n\n\n\nweeknumber = 9");
+}
+
+TEST_F(Logic, EveryNavigationWritesTheBoardOnce) {
+  void (*const navigations[])(Board&) = {[](Board& b) { b.InitCalendarLogic(3); },
+                                         [](Board& b) { b.Build(); },
+                                         [](Board& b) { b.GotoToday(); },
+                                         [](Board& b) { b.GotoPreviousPage(); },
+                                         [](Board& b) { b.GotoNextPage(); },
+                                         [](Board& b) { b.GotoSpecifiedDate(2024, 5, 5); },
+                                         [](Board& b) { b.GotoSpecifiedDate(2024, 5, 55); },
+                                         [](Board& b) { b.GotoTodayOffsetMonth(1); }};
+  for (const auto navigate : navigations) {
+    navigate(m_engine);
+    const std::string text = m_output.Take();
+    std::size_t rows = 0;
+    for (std::size_t at = 0; (at = text.find("weeknumber", at)) != std::string::npos; ++at) {
+      ++rows;
+    }
+    EXPECT_EQ(rows, 5U);
+    EXPECT_EQ(text.substr(text.size() - 5), "\n\n\n\n\n");
+  }
+}
+
+TEST_F(Logic, QueriesAndOptionsWriteNothing) {
+  m_engine.GotoToday();
+  m_output.Take();
+  m_engine.GetContentItem(0, 0);
+  m_engine.GetCalendarWeekByColumns(0);
+  m_engine.GetWeekNumberItem(0);
+  m_engine.GetContentDate();
+  m_engine.GetToday();
+  m_engine.SetMaxRows(3);
+  m_engine.GetConfigKey();
+  EXPECT_EQ(m_output.Take(), "");
+}
+
+TEST_F(Logic, OptionsTakeEffectAtTheNextBuild) {
+  m_engine.GotoToday();
+  m_engine.SetMaxRows(3);
+  m_engine.SetShowBreakDayOfWeek(false);
+  EXPECT_EQ(m_engine.GetContentRows(), 5);
+  EXPECT_EQ(m_engine.GetContentColumns(), 7);
+  m_engine.Build();
+  EXPECT_EQ(m_engine.GetContentRows(), 3);
+  EXPECT_EQ(m_engine.GetContentColumns(), 5);
+}
+
+TEST_F(Logic, CellsAreAskedByVisibleRowAndColumn) {
+  m_engine.SetStartDayOfWeek(0);
+  m_engine.SetShowBreakDayOfWeek(false);
+  m_engine.GotoToday();
+  const CCalendarItem item = m_engine.GetContentItem(1, 2);  // Wednesday, behind the hidden Sunday
+  EXPECT_EQ(item.GetDay(), "(4)2024-03-13");
+  EXPECT_EQ(item.GetRow(), 1);
+  EXPECT_EQ(item.GetColumn(), 3);
+  EXPECT_EQ(item.GetDate().dayOfWeek, 3);
+  EXPECT_EQ(item.GetWeekNumber(), 11);
+}
+
+TEST_F(Logic, CellsAreAskedByVisibleRowWhereRowsAreHidden) {
+  SetToday(2024, 5, 22);
+  m_engine.SetMaxRows(6);
+  m_engine.SetShowBreakDayOfWeek(false);
+  m_engine.GotoToday();
+  EXPECT_EQ(m_engine.GetContentRows(), 5);
+  EXPECT_EQ(m_engine.GetContentItem(2, 0).GetDay(), "(3)2024-05-27");
+  EXPECT_EQ(m_engine.GetContentItem(3, 0).GetDay(), "(3)2024-06-03");
+  EXPECT_EQ(m_engine.GetContentItem(3, 0).GetRow(), 4);
+}
+
+TEST_F(Logic, CellOutsideTheVisibleOnesIsADefaultCell) {
+  m_engine.SetShowBreakDayOfWeek(false);
+  m_engine.GotoToday();
+  struct {
+    int row, column;
+    bool inside;
+  } const cases[] = {{4, 4, true},     {5, 4, false},   {4, 5, false},    {0, 0, true},
+                     {-1, 0, false},   {0, -1, false},  {kMin, 0, false}, {0, kMin, false},
+                     {kMax, 0, false}, {0, kMax, false}};
+  for (const auto& c : cases) {
+    const CCalendarItem item = m_engine.GetContentItem(c.row, c.column);
+    EXPECT_EQ(item.GetType() != 1, c.inside) << c.row << ' ' << c.column;
+    if (!c.inside) {
+      EXPECT_EQ(item.GetDay(), "(1)0000-00-00");
+      EXPECT_EQ(item.GetWeekNumber(), -1);
+      EXPECT_EQ(item.GetRow(), 0);
+      EXPECT_EQ(item.GetColumn(), 0);
+    }
+  }
+}
+
+TEST_F(Logic, HeadingsFollowTheStartDayAndTheVisibleColumns) {
+  m_engine.SetShowBreakDayOfWeek(false);
+  for (int start = 0; start <= 6; ++start) {
+    m_engine.SetStartDayOfWeek(start);
+    m_engine.GotoToday();
+    ASSERT_EQ(m_engine.GetContentColumns(), 5);
+    for (int column = 0; column < 5; ++column) {
+      EXPECT_EQ(m_engine.GetCalendarWeekByColumns(column),
+                (start + m_engine.m_visibleColumns[static_cast<std::size_t>(column)]) % 7);
+    }
+  }
+}
+
+// The entries behind the visible columns are column 0.
+TEST_F(Logic, HeadingOfAColumnThatIsNotVisibleIsTheStartDay) {
+  m_engine.SetShowBreakDayOfWeek(false);
+  m_engine.SetStartDayOfWeek(3);
+  m_engine.GotoToday();
+  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(5), 3);
+  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(6), 3);
+  for (const int column : {-1, 7, kMin, kMax}) {
+    EXPECT_EQ(m_engine.GetCalendarWeekByColumns(column), 0) << column;
+  }
+}
+
+TEST_F(Logic, HeadingsBeforeTheFirstBuild) {
+  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(0), 1);
+  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(6), 1);
+  m_engine.SetStartDayOfWeek(10);
+  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(0), 3);
+}
+
+// The start day counts as it was set, although the days are laid out from Monday then.
+TEST_F(Logic, HeadingsOfAStartDayOutsideTheWeekKeepItsRemainder) {
+  m_engine.SetStartDayOfWeek(9);
+  m_engine.GotoToday();
+  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(0), 2);
+  EXPECT_EQ(m_engine.GetContentItem(0, 0).GetDate().dayOfWeek, 1);
+  m_engine.SetStartDayOfWeek(-10);
+  m_engine.GotoToday();
+  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(0), -3);
+  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(3), 0);
+  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(4), -6);
+  m_engine.SetStartDayOfWeek(kMax);
+  m_engine.GotoToday();
+  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(0), 1);
+  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(1), -2);  // wraps
+}
+
+TEST_F(Logic, HeadingsOfTheStripAreTheWeekdaysOfItsDates) {
+  m_engine.SetDispMonth(kStrip);
+  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(0), 0);  // no build yet
+  m_engine.GotoSpecifiedDate(2024, 3, 13);
+  ASSERT_EQ(Direction(), 2);
+  for (int column = 0; column < 7; ++column) {
+    EXPECT_EQ(m_engine.GetCalendarWeekByColumns(column), (3 + column) % 7);
+  }
+  m_engine.SetMaxColumns(3);
+  m_engine.GotoToday();
+  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(0), 2);
+  for (const int column : {3, 6, 7, -1, kMin, kMax}) {
+    EXPECT_EQ(m_engine.GetCalendarWeekByColumns(column), 0) << column;
+  }
+}
+
+TEST_F(Logic, HeadingsOfAStripWhoseRowIsHiddenAre0) {
+  SetToday(2024, 3, 16);
+  m_engine.SetDispMonth(kStrip);
+  m_engine.SetMaxColumns(2);
+  m_engine.SetShowBreakDayOfWeek(false);
+  m_engine.GotoToday();
+  ASSERT_EQ(m_engine.GetContentRows(), 0);
+  ASSERT_EQ(m_engine.GetContentColumns(), 2);
+  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(0), 0);
+}
+
+TEST_F(Logic, SpansAreAskedByIndex) {
+  m_engine.GotoToday();
+  ASSERT_EQ(m_engine.GetWeekNumberCount(), 4);
+  EXPECT_EQ(m_engine.GetWeekNumberItem(0).weekNumber, 10);
+  EXPECT_EQ(m_engine.GetWeekNumberItem(3).weekNumber, 13);
+  EXPECT_EQ(m_engine.GetWeekNumberItem(3).rows, 2);
+  for (const int index : {-1, 4, kMin, kMax}) {
+    const tagCalendarWeekSpan span = m_engine.GetWeekNumberItem(index);
+    EXPECT_EQ(span.weekNumber, 0);
+    EXPECT_EQ(span.firstWeekCells, 0);
+    EXPECT_EQ(span.secondWeekNumber, 0);
+    EXPECT_EQ(span.secondWeekCells, 0);
+    EXPECT_EQ(span.cellsWithoutWeek, 0);
+    EXPECT_EQ(span.rows, 0);
+  }
+}
+
+TEST_F(Logic, ContentDateIsTheFocusAsPassed) {
+  m_engine.GotoSpecifiedDate(2023, 2, 31);
+  const CCalendarSolarDate date = m_engine.GetContentDate();
+  EXPECT_EQ(Date(date), "2023-2-31");
+  EXPECT_EQ(date.dayOfWeek, 0);
+}
+
+TEST_F(Logic, TodayHasItsWeekdayAndDoesNotTouchTheBoard) {
+  const CCalendarSolarDate today = m_engine.GetToday();
+  EXPECT_EQ(Date(today), "2024-3-13");
+  EXPECT_EQ(today.dayOfWeek, 3);
+  EXPECT_EQ(m_engine.GetContentRows(), 0);
+}
+
+// What was today at the last build stays so until the next.
+TEST_F(Logic, MidnightPassesBetweenBuilds) {
+  m_engine.GotoToday();
+  SetToday(2024, 3, 14);
+  EXPECT_EQ(m_engine.GetContentItem(1, 2).GetType(), 4);
+  EXPECT_EQ(m_engine.GetToday().day, 14);
+  m_engine.Build();
+  EXPECT_EQ(Focus(), "2024-3-14");
+  EXPECT_EQ(m_engine.GetContentItem(1, 2).GetType(), 3);
+  EXPECT_EQ(m_engine.GetContentItem(1, 3).GetType(), 4);
+}
+
+}  // namespace
