@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#ifndef ALMARA_YARDSTICK_ENGINE_H_
+#define ALMARA_YARDSTICK_ENGINE_H_
+
+#include <almara/almara_types.h>
+
+#include <map>
+#include <string>
+
+#include "lunar/calendar_lunar_solar_terms.h"
+
+namespace yardstick {
+
+// The four annotation look-ups, each a text key, a std::map and the plain computation behind it.
+class Engine {
+ public:
+  CCalendarLunarDate ConverterLunar(CCalendarSolarDate date);
+  ESolarKyureki24 Check24Sekki(CCalendarSolarDate date);
+  EFestivalSolar CheckFestivalSolar(ELanguage language, CCalendarSolarDate date);
+  EFestivalLunar CheckFestivalLunar(ELanguage language, CCalendarSolarDate date);
+
+ private:
+  EFestivalLunar LunarFestival(ELanguage language, CCalendarSolarDate date);
+  EFestivalLunar NewYearsEve(CCalendarSolarDate date);
+
+  CCalendarLunarConverter m_converter;
+  std::map<std::string, CCalendarLunarDate> m_lunarDates;
+  std::map<std::string, ESolarKyureki24> m_sekki;
+  std::map<std::string, EFestivalSolar> m_solarFestivals;
+  std::map<std::string, EFestivalLunar> m_lunarFestivals;
+};
+
+}  // namespace yardstick
+
+#endif  // ALMARA_YARDSTICK_ENGINE_H_
