@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+//
+// What may run on several threads: board builds, which exclude each other, and converters that
+// share nothing but the zone. Meant for the thread sanitizer; the results are checked everywhere.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "date/calendar_platform_api.h"
+#include "lunar/calendar_lunar_solar_terms.h"
+#include "lunar/lunar_quarter_memo.h"
+#include "robustness/failures_to_stderr.h"
+#include "support/board.h"
+#include "support/capture_stdout.h"
+
+namespace {
+
+using almara_test::Board;
+
+constexpr int kThreads = 4;
+
+template <typename Work>
+void OnEveryThread(Work work) {
+  std::vector<std::thread> threads;
+  for (int i = 0; i < kThreads; ++i) {
+    threads.emplace_back(work, i);
+  }
+  for (std::thread& thread : threads) {
+    thread.join();
+  }
+}
+
+TEST(Concurrency, BuildsOfOneBoardExcludeEachOther) {
+  constexpr int kBuilds = 200;
+  const almara_test::CaptureStdout output;
+  Board board;
+  board.SetDispMonth(eDispMonthWholeMonth);
+  OnEveryThread([&board](int thread) {
+    for (int i = 0; i < kBuilds; ++i) {
+      board._BuildCalendar(2000 + thread, 1 + i % 12, 1);
+    }
+  });
+  Board alone;
+  alone.SetDispMonth(eDispMonthWholeMonth);
+  alone._BuildCalendar(board.m_focusYear, board.m_focusMonth, board.m_focusDay);
+  EXPECT_EQ(board.RowTexts(), alone.RowTexts());
+}
+
+TEST(Concurrency, BuildsOfSeveralBoardsExcludeEachOther) {
+  constexpr int kBuilds = 100;
+  const almara_test::CaptureStdout output;
+  std::vector<Board> boards(kThreads);
+  OnEveryThread([&boards](int thread) {
+    Board& board = boards[static_cast<std::size_t>(thread)];
+    for (int i = 0; i < kBuilds; ++i) {
+      board._BuildCalendar(0, 0, 0);
+      board._BuildCalendar(2024, 3, 13);
+    }
+  });
+  for (const Board& board : boards) {
+    EXPECT_EQ(board.RowTexts(), boards.front().RowTexts());
+  }
+}
+
+TEST(Concurrency, ConvertersOfSeveralThreadsAnswerAlike) {
+  g_mac_timezone = 8;
+  std::vector<std::string> answers(kThreads);
+  OnEveryThread([&answers](int thread) {
+    CCalendarLunarSolarTerms converter;
+    LunarQuarterMemo memo;
+    std::string& text = answers[static_cast<std::size_t>(thread)];
+    for (int day = 1; day <= 28; ++day) {
+      for (int month = 1; month <= 12; ++month) {
+        const CCalendarLunarDate lunar = converter.Converter({2033, month, day, 0}, memo);
+        text += std::to_string(lunar.month * 100 + lunar.day + 10000 * lunar.leap) + " " +
+                std::to_string(converter.Check24Sekki(2033, month, day)) + "\n";
+      }
+    }
+  });
+  for (const std::string& text : answers) {
+    EXPECT_EQ(text, answers.front());
+    EXPECT_FALSE(text.empty());
+  }
+}
+
+}  // namespace
