@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+//
+// Apart from the public header, whose prototypes say bool.
+#include "api/raw_bool_setters.h"
+
+extern "C" {
+void SetHideBreakDay(std::uint8_t hide);
+void SetShowMonthInterval(std::uint8_t show);
+void SetShowBreakDayOfWeek(std::uint8_t show);
+void SetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak);
+}
+
+namespace almara_fuzz {
+
+void RawSetHideBreakDay(std::uint8_t hide) { SetHideBreakDay(hide); }
+void RawSetShowMonthInterval(std::uint8_t show) { SetShowMonthInterval(show); }
+void RawSetShowBreakDayOfWeek(std::uint8_t show) { SetShowBreakDayOfWeek(show); }
+void RawSetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak) {
+  SetBreakDayOfWeek(dayOfWeek, isBreak);
+}
+
+}  // namespace almara_fuzz

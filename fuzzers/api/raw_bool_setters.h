@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#ifndef ALMARA_FUZZERS_API_RAW_BOOL_SETTERS_H_
+#define ALMARA_FUZZERS_API_RAW_BOOL_SETTERS_H_
+
+#include <cstdint>
+
+// The exported setters with a bool argument, called as a foreign bridge may call them: with any
+// byte in the place of the bool. Only its lowest bit counts.
+namespace almara_fuzz {
+
+void RawSetHideBreakDay(std::uint8_t hide);
+void RawSetShowMonthInterval(std::uint8_t show);
+void RawSetShowBreakDayOfWeek(std::uint8_t show);
+void RawSetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak);
+
+}  // namespace almara_fuzz
+
+#endif  // ALMARA_FUZZERS_API_RAW_BOOL_SETTERS_H_
