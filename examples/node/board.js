@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+//
+// Shows the month of a date (today, if none is given) with week numbers, and what that date is in
+// the lunisolar calendar: a complete host of the calendar engine for Node.js.
+'use strict';
+
+const fs = require('fs');
+const koffi = require('koffi');
+const almara = require('./almara.js');
+
+const wholeMonth = 3;
+const chinese = 1;
+const cellTexts = {
+  3: (number) => ` ${number}`,
+  4: (number) => `[${number}]`, // today
+  5: (number) => ` ${number}.`, // a break day
+  6: (number) => `[${number}].`, // today on a break day
+};
+const months = ['January', 'February', 'March', 'April', 'May', 'June', 'July', 'August',
+  'September', 'October', 'November', 'December'];
+const days = ['Sun', 'Mon', 'Tue', 'Wed', 'Thu', 'Fri', 'Sat'];
+
+// The descriptor that this program writes to; the engine writes every board to descriptor 1.
+function keepScreen() {
+  const libc = koffi.load(null);
+  const screen = libc.func('int dup(int descriptor)')(1);
+  libc.func('int dup2(int from, int to)')(fs.openSync('/dev/null', 'w'), 1);
+  return screen;
+}
+
+function range(count) {
+  return [...Array(count).keys()];
+}
+
+function cellText(cell) {
+  const text = cellTexts[cell.type];
+  return text ? text(String(cell.day).padStart(2)) : '';
+}
+
+function boardLines(engine) {
+  const columns = range(engine.GetContentColumns());
+  const date = engine.GetContentDate();
+  const title = `${months[date.month - 1]} ${date.year}`;
+  const headings = columns.map((column) => days[engine.GetCalendarWeekByColumns(column)]);
+  const lines = [
+    ' '.repeat((7 + 10 * columns.length - title.length) / 2) + title,
+    '   Wk  ' + headings.map((day) => ` ${day.padEnd(9)}`).join(''),
+  ];
+  let row = 0;
+  for (const index of range(engine.GetWeekNumberCount())) {
+    const span = engine.GetWeekNumberItemWithIndex(index);
+    for (const end = row + span.rows; row < end; row++) {
+      const cells = columns.map((column) => engine.GetContentItem(row, column));
+      lines.push(`${String(span.weekNumber).padStart(5)}  ` +
+        cells.map((cell) => cellText(cell).padEnd(10)).join(''));
+    }
+  }
+  return lines;
+}
+
+function annotationLine(engine) {
+  const date = engine.GetContentDate();
+  const lunar = engine.ConverterLunarWithDate(date);
+  const [month, day] = [date.month, date.day].map((number) => String(number).padStart(2, '0'));
+  return `${date.year}-${month}-${day}: ` +
+    `lunar ${lunar.year}-${lunar.month}-${lunar.day}${lunar.leap ? ' in a leap month' : ''}, ` +
+    `solar term ${engine.Check24SekkiWithDate(date)}, ` +
+    `festivals ${engine.CheckFestivalSolarWithLang(chinese, date)} ` +
+    `${engine.CheckFestivalLunarWithLang(chinese, date)}`;
+}
+
+function main(text) {
+  const date = /^(\d+)-(\d+)-(\d+)$/.exec(text);
+  if (text && !date) {
+    console.error('usage: board.js [YYYY-MM-DD]');
+    process.exit(2);
+  }
+  const screen = keepScreen();
+  const engine = almara.load();
+  engine.SetDispMonth(wholeMonth);
+  engine.SetShowMonthInterval(false);
+  engine.InitCalendarLogicDt(chinese);
+  if (date) {
+    engine.GotoSpecifiedDate(...date.slice(1).map(Number));
+  }
+  const lines = [...boardLines(engine), annotationLine(engine), `options ${engine.GetConfigKey()}`];
+  fs.writeSync(screen, lines.join('\n') + '\n');
+}
+
+main(process.argv[2]);

@@ -1,0 +1,79 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Shows the month of a date (today, if none is given) with week numbers, and what that date is in
+the lunisolar calendar: a complete host of the calendar engine in Python."""
+import os
+import re
+import sys
+
+import almara
+
+WHOLE_MONTH = 3
+CHINESE = 1
+DAY, TODAY, BREAK_DAY, TODAY_BREAK_DAY = 3, 4, 5, 6
+
+MONTHS = ("January February March April May June July August September October November "
+          "December").split()
+DAYS = "Sun Mon Tue Wed Thu Fri Sat".split()
+
+
+def keep_screen():
+    """Where this program writes; the engine writes every board that it builds to descriptor 1."""
+    screen = os.fdopen(os.dup(1), "w")
+    os.dup2(os.open(os.devnull, os.O_WRONLY), 1)
+    return screen
+
+
+def cell_text(cell):
+    """ 9, 10. for a break day, [11] for today."""
+    return {DAY: f" {cell.day:2}", TODAY: f"[{cell.day:2}]", BREAK_DAY: f" {cell.day:2}.",
+            TODAY_BREAK_DAY: f"[{cell.day:2}]."}.get(cell.type, "")
+
+
+def print_board(engine, screen):
+    columns = range(engine.GetContentColumns())
+    date = engine.GetContentDate()
+    title = f"{MONTHS[date.month - 1]} {date.year}"
+    print(" " * ((7 + 10 * len(columns) - len(title)) // 2) + title, file=screen)
+    headings = (DAYS[engine.GetCalendarWeekByColumns(column)] for column in columns)
+    print("   Wk  " + "".join(f" {day:9}" for day in headings), file=screen)
+    row = 0
+    for index in range(engine.GetWeekNumberCount()):
+        span = engine.GetWeekNumberItemWithIndex(index)
+        for row in range(row, row + span.rows):
+            cells = (engine.GetContentItem(row, column) for column in columns)
+            print(f"{span.weekNumber:5}  " + "".join(f"{cell_text(cell):10}" for cell in cells),
+                  file=screen)
+        row += 1
+
+
+def print_annotations(engine, screen):
+    date = engine.GetContentDate()
+    lunar = engine.ConverterLunarWithDate(date)
+    leap = " in a leap month" if lunar.leap else ""
+    print(f"{date.year}-{date.month:02}-{date.day:02}: "
+          f"lunar {lunar.year}-{lunar.month}-{lunar.day}{leap}, "
+          f"solar term {engine.Check24SekkiWithDate(date)}, "
+          f"festivals {engine.CheckFestivalSolarWithLang(CHINESE, date)} "
+          f"{engine.CheckFestivalLunarWithLang(CHINESE, date)}", file=screen)
+
+
+def main(arguments):
+    date = re.fullmatch(r"(\d+)-(\d+)-(\d+)", arguments[0]) if arguments else None
+    if arguments and not date:
+        sys.exit("usage: board.py [YYYY-MM-DD]")
+    screen = keep_screen()
+    engine = almara.load()
+    engine.SetDispMonth(WHOLE_MONTH)
+    engine.SetShowMonthInterval(False)
+    engine.InitCalendarLogicDt(CHINESE)
+    if date:
+        engine.GotoSpecifiedDate(*map(int, date.groups()))
+    print_board(engine, screen)
+    print_annotations(engine, screen)
+    print("options", engine.GetConfigKey(), file=screen)
+    screen.close()
+
+
+if __name__ == "__main__":
+    main(sys.argv[1:])

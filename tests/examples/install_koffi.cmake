@@ -1,0 +1,19 @@
+# Copies the Node.js example from FROM to TO and installs there what its lock file names, unless
+# that is done already.
+file(GLOB files ${FROM}/*.js ${FROM}/*.json)
+file(COPY ${files} DESTINATION ${TO})
+file(SHA256 ${TO}/package-lock.json wanted)
+set(stamp ${TO}/installed)
+if(EXISTS ${stamp})
+  file(READ ${stamp} installed)
+endif()
+if("${installed}" STREQUAL "${wanted}")
+  return()
+endif()
+# koffi brings its compiled part along; no script of a package needs to run.
+execute_process(COMMAND ${NPM} ci --ignore-scripts --no-audit --no-fund
+  WORKING_DIRECTORY ${TO} RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "npm ci: ${result}")
+endif()
+file(WRITE ${stamp} ${wanted})

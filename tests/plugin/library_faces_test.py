@@ -1,0 +1,57 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Builds the stand-alone library, in a project that takes it in, with the plugin object in it."""
+import argparse
+import subprocess
+import sys
+import unittest
+
+import library_file
+import nested_build
+
+arguments = argparse.ArgumentParser(description=__doc__)
+arguments.add_argument("work", help="folder to build in; emptied first")
+arguments.add_argument("--compiler", required=True)
+arguments.add_argument("--launcher", default="", help="of the compiler, such as ccache")
+arguments.add_argument("--build-type", default="Release")
+arguments.add_argument("--embedding", default="",
+                       help="folder of the embedding; without it the project has the target flutter")
+ARGUMENTS = arguments.parse_args()
+FUNCTIONS = (library_file.declared_functions("almara.h") |
+             library_file.declared_functions("almara_plugin.h"))
+
+
+class LibraryWithPlugin(unittest.TestCase):
+
+    @classmethod
+    def setUpClass(cls):
+        work = nested_build.fresh_folder(ARGUMENTS.work)
+        definitions = [f"HOST_ALMARA_DIR={library_file.ROOT}", "ALMARA_DEVELOPER_WARNINGS=ON"]
+        if ARGUMENTS.embedding:
+            definitions.append(f"ALMARA_FLUTTER_DIR={ARGUMENTS.embedding}")
+        cls.said = nested_build.build(library_file.ROOT / "tests" / "plugin" / "host_project", work,
+                                      ARGUMENTS, "host", *definitions)
+        cls.host = work / "host"
+        cls.library = work / "almara" / "libalmara.so.1"
+
+    def test_nothing_warns(self):
+        self.assertNotRegex(self.said, "(?i)warning|deprecat")
+
+    def test_library_keeps_its_name_and_version(self):
+        self.assertEqual(library_file.dynamic_entries(self.library, "SONAME"), ["libalmara.so.1"])
+        self.assertEqual(self.library.resolve().name, "libalmara.so.1.0.0")
+
+    def test_exports_are_the_functions_of_both_headers(self):
+        self.assertEqual(library_file.exported_symbols(self.library), FUNCTIONS)
+
+    def test_program_resolves_every_function_and_calls_the_method(self):
+        run = subprocess.run([self.host, "libalmara.so.1", *sorted(FUNCTIONS)], env={"TZ": "UTC"},
+                             capture_output=True, text=True)
+        self.assertEqual((run.returncode, run.stderr), (0, ""))
+        self.assertEqual(run.stdout.splitlines()[-5:],
+                         [f"library: {self.library}", f"resolved: {len(FUNCTIONS)}", "rows: 5",
+                          f"version: Linux {library_file.kernel_version()}", "channels left: 0"])
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])

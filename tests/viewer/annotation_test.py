@@ -1,0 +1,210 @@
+# SPDX-License-Identifier: MIT
+"""Lunar days, solar terms and festivals: on the board, of one day and of a year."""
+
+import unittest
+
+from harness import output, read_json
+
+EASTER = {2000: "04-23", 2008: "03-23", 2011: "04-24", 2019: "04-21", 2023: "04-09", 2024: "03-31",
+          2025: "04-20", 2026: "04-05", 2038: "04-25"}
+
+
+def names(day, key="name"):
+    return [festival[key] for festival in day["festivals"]]
+
+
+def iso(day):
+    return f"{day['year']}-{day['month']:02}-{day['day']:02}"
+
+
+class OnTheBoard(unittest.TestCase):
+    maxDiff = None
+
+    def board(self, language, date, **settings):
+        return output("--language", language, "--mode", "month", "--date", date, **settings)
+
+    def test_festival_before_term_before_lunar_day(self):
+        self.assertEqual(self.board("chs", "2024-02-10").splitlines(), [
+            "                                  2024年2月",
+            "   周   周一      周二      周三      周四      周五      周六      周日",
+            "    5 ╭                                1         2         3·        4·",
+            "      ╰                               廿二      小年      廿四      立春",
+            "    6 ╭  5         6         7         8         9        10·       11·",
+            "      ╰ 廿六      廿七      廿八      廿九      除夕      春节      初二",
+            "    7 ╭ 12        13        14        15        16        17·       18·",
+            "      ╰ 初三      初四      情人节    初六      初七      初八      初九",
+            "    8 ╭ 19        20        21        22        23        24·       25·",
+            "      ╰ 雨水      十一      十二      十三      十四      元宵节    十六",
+            "    9 ╭ 26        27        28        29       ─ 三月 ───────────────────────",
+            "      ╰ 十七      十八      十九      二十",
+            "",
+            " 2月 2日  小年      2月 9日  除夕      2月14日  情人节    2月24日  元宵节",
+            " 2月 4日  立春      2月10日  春节      2月19日  雨水",
+        ])
+
+    def test_english(self):
+        board = output("--language", "usa").splitlines()
+        self.assertEqual(board[2:4], [
+            "   10 ╭  4         5         6         7         8         9·       10·",
+            "      ╰ L25       Awakening L27       L28       Women's   L30       Moon 2"])
+        self.assertEqual(board[8:], [
+            "   13 ╭ 25        26        27        28        29        30·       31·",
+            "      │ L16       L17       L18       L19       Good Fri. L21       Easter",
+            "      │─ April ──────────────────────────────────────────────────────────────",
+            "      ╰",
+            "",
+            " Mar  5  Awakening of Insects    Mar 29  Good Friday",
+            " Mar  8  Women's Day             Mar 31  Easter Sunday",
+            " Mar 20  Spring Equinox"])
+
+    def test_the_legend_gives_every_name_in_full(self):
+        legend = self.board("chs", "2020-10-01").split("\n\n")[1]
+        self.assertIn("10月 1日  中秋节, 国庆节", legend)
+        self.assertIn("10月25日  重阳节", legend)
+        self.assertIn("寒露", legend)
+
+    def test_first_days_of_lunar_months(self):
+        # In 2023 the second month was followed by a leap month that began on 22 March.
+        for language, month, leap, day in [
+                ("chs", "二月", "闰二月", "初二"), ("cht", "二月", "閏二月", "初二"),
+                ("kor", "음 2월", "윤 2월", "음 2"), ("jpn", "旧2月", "閏2月", "旧2日"),
+                ("vit", "Tháng 2", "Nhuận 2", "ÂL 2"), ("eng", "Moon 2", "Leap 2", "L2")]:
+            zone = "Asia/Shanghai"
+            self.assertIn(f" {month} ", self.board(language, "2023-02-20", zone=zone))
+            march = self.board(language, "2023-03-22", zone=zone)
+            self.assertRegex(march, f" {leap} +{day} ")
+
+    def test_ascii_where_the_locale_is_not_utf8(self):
+        board = self.board("chs", "2024-02-10", LC_ALL="C")
+        self.assertTrue(board.isascii())
+        self.assertIn("Lunar New Year's Day", board)
+        self.assertIn("Lunar NY", board)
+
+    def test_annotations_can_be_left_out(self):
+        board = output("--no-annotations")
+        self.assertNotIn("Equinox", board)
+        self.assertNotIn("L25", board)
+
+    def test_colors(self):
+        board = output("--language", "usa", "--color=always")
+        self.assertIn("\033[35m Women's\033[0m", board)
+        self.assertIn("\033[32m Equinox\033[0m", board)
+        self.assertIn("\033[2m L25\033[0m", board)
+
+    def test_cells_in_json(self):
+        cells = [cell for row in read_json("--language", "chs", "--date", "2024-02-10")["cells"]
+                 for cell in row]
+        by_date = {iso(cell): cell for cell in cells}
+        new_year = by_date["2024-02-10"]
+        self.assertEqual(new_year["lunar"], {"year": 2024, "month": 1, "day": 1, "leap": False})
+        self.assertEqual(new_year["festivals"],
+                         [{"kind": "lunar", "code": 20000, "name": "Lunar New Year's Day",
+                           "localName": "春节"}])
+        self.assertIsNone(new_year["solarTerm"])
+        self.assertEqual(by_date["2024-02-19"]["solarTerm"],
+                         {"code": 3, "name": "Rain Water", "localName": "雨水"})
+        for cell in cells:
+            if cell["type"] in (1, 2, 7):
+                self.assertEqual((cell["lunar"], cell["solarTerm"], cell["festivals"]),
+                                 (None, None, []))
+
+
+class Easter(unittest.TestCase):
+    def test_found_although_the_engine_needs_a_question_before(self):
+        for year, day in EASTER.items():
+            date = f"{year}-{day}"
+            report = read_json("--language", "usa", "--day", date)
+            self.assertEqual(names(report), ["Easter Sunday"])
+        # The first day of the first board is Easter Sunday.
+        board = read_json("--language", "usa", "-S", "--rows", "1", today="2025-04-20 10:00:00")
+        self.assertEqual(names(board["cells"][0][0]), ["Easter Sunday"])
+
+    def test_the_year_has_it_once(self):
+        for year in (2008, 2024, 2038):
+            days = read_json("--language", "usa", "--list", "--year", str(year))["days"]
+            self.assertEqual([iso(d) for d in days if "Easter Sunday" in names(d)],
+                             [f"{year}-{EASTER[year]}"])
+
+
+class OneDay(unittest.TestCase):
+    def test_english(self):
+        self.assertEqual(output("--language", "usa", "--day", "2024-03-31"), """\
+Sunday, 31 March 2024
+  When             in 19 days
+  Week             13
+  Day of the year  91 of 366
+  Lunar date       day 22 of month 2, 2024
+  Solar term       -
+  Festivals        Easter Sunday
+""")
+
+    def test_chinese(self):
+        self.assertEqual(output("--language", "cht", "--day", "2023-04-05"), """\
+2023年4月5日 星期三
+  距今天      342天前
+  週數        14
+  年內第幾天  95 / 365
+  農曆        2023年閏二月十五
+  節氣        清明
+  節日        -
+""")
+
+    def test_other_languages(self):
+        self.assertIn("2023년 윤2월 15일", output("--language", "kor", "--day", "2023-04-05"))
+        self.assertIn("설날", output("--language", "kor", "--day", "2024-02-10"))
+        self.assertIn("2023年閏2月15日", output("--language", "jpn", "--day", "2023-04-05"))
+        self.assertIn("ngày 1 tháng 1 năm 2024",
+                      output("--language", "vit", "--day", "2024-02-10", zone="Asia/Ho_Chi_Minh"))
+
+    def test_from_today(self):
+        for day, text in [("2024-03-12", "today"), ("2024-03-13", "tomorrow"),
+                          ("2024-03-11", "yesterday"), ("2024-03-14", "in 2 days"),
+                          ("1900-01-01", "45361 days ago")]:
+            self.assertIn(f"  {text}\n", output("--day", day))
+
+    def test_json(self):
+        report = read_json("--language", "chs", "--day", "2024-02-04")
+        self.assertEqual(report, {
+            "region": "chs", "language": 1,
+            "date": {"year": 2024, "month": 2, "day": 4, "dayOfWeek": 0},
+            "today": {"year": 2024, "month": 3, "day": 12, "dayOfWeek": 2},
+            "daysFromToday": -37, "weekNumber": 5, "dayOfYear": 35, "daysInYear": 366,
+            "lunar": {"year": 2023, "month": 12, "day": 25, "leap": False},
+            "solarTerm": {"code": 2, "name": "Start of Spring", "localName": "立春"},
+            "festivals": []})
+
+    def test_week_number_of_a_hidden_day(self):
+        report = read_json("--day", "2024-03-16", "--hide-break-days", "--week-rule", "jan1")
+        self.assertEqual(report["weekNumber"], 11)
+
+    def test_ends_of_the_calendar(self):
+        self.assertEqual(read_json("--day", "1900-01-01")["weekNumber"], 1)
+        self.assertEqual(read_json("--day", "2099-12-31")["weekNumber"], 53)
+
+
+class OneYear(unittest.TestCase):
+    def test_text(self):
+        text = output("--language", "jpn", "--list", "--year", "2024")
+        self.assertTrue(text.startswith("2024年1月\n   1 月    元日\n   6 土    小寒\n"))
+        self.assertEqual(text.count("\n\n"), 11)  # twelve months
+        self.assertIn("\n  23 月    天皇誕生日\n", text)
+
+    def test_this_year_by_default(self):
+        self.assertEqual(output("--list"), output("--list", "--year", "2024"))
+
+    def test_json(self):
+        year = read_json("--language", "chs", "--list", "--year", "2025")
+        self.assertEqual((year["region"], year["language"], year["year"]), ("chs", 1, 2025))
+        terms = [day["solarTerm"]["code"] for day in year["days"] if day["solarTerm"]]
+        self.assertEqual(terms, list(range(24)))
+        by_date = {iso(day): day for day in year["days"]}
+        self.assertEqual(names(by_date["2025-01-29"], "localName"), ["春节"])
+        self.assertEqual(names(by_date["2025-10-06"], "localName"), ["中秋节"])
+        for day in year["days"]:
+            self.assertTrue(day["solarTerm"] or day["festivals"])
+            self.assertEqual(set(day), {"year", "month", "day", "dayOfWeek", "lunar", "solarTerm",
+                                        "festivals"})
+
+
+if __name__ == "__main__":
+    unittest.main()

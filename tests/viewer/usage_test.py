@@ -1,0 +1,76 @@
+# SPDX-License-Identifier: MIT
+"""The command line: help, and one line and exit code 2 for what makes no sense."""
+
+import subprocess
+import unittest
+
+from harness import BOARD, environment, output, run
+
+
+class Usage(unittest.TestCase):
+    def test_help_and_version(self):
+        text = output("-h")
+        self.assertEqual(text, output("--help"))
+        for option in ("--mode", "--date", "--rows", "--passed-weeks", "--first-day", "--week-rule",
+                       "--start-week", "-w", "-M", "-S", "--hide-break-days", "--break-days",
+                       "--no-month-interval", "--language", "--next", "--previous", "--offset",
+                       "--day", "--list", "--year", "--no-annotations", "--json", "--color", "--tui", "--dump"):
+            self.assertIn(option, text)
+        self.assertLessEqual(max(len(line) for line in text.splitlines()), 80)
+        self.assertRegex(output("--version"), r"^almara-board \d+\.\d+\.\d+\n$")
+
+    def test_bad_input(self):
+        for arguments, line in [
+                (("--date", "2024-02-31"), "--date: 2024-02-31 is not a day of the calendar"),
+                (("--date", "1899-12-31"), "--date: 1899-12-31 is outside the years 1900 to 2099"),
+                (("--date", "1899"), "--date: expected YYYY-MM-DD, not '1899'"),
+                (("--rows", "x"), "--rows: expected a number from 1 to 50, not 'x'"),
+                (("--rows", "0"), "--rows: expected a number from 1 to 50, not '0'"),
+                (("--rows", "51"), "--rows: expected a number from 1 to 50, not '51'"),
+                (("--rows", "5 "), "--rows: expected a number from 1 to 50, not '5 '"),
+                (("--rows", "99999999999"),
+                 "--rows: expected a number from 1 to 50, not '99999999999'"),
+                (("--rows", "3", "--passed-weeks", "3"),
+                 "--passed-weeks: must be less than the 3 rows"),
+                (("--rows",), "--rows: a value is missing"),
+                (("--next=2",), "--next: takes no value"),
+                (("--offset", "9999"), "--offset: 9999 leads outside the years 1900 to 2099"),
+                (("--mode", "month", "--offset", "-1491"),
+                 "--offset: -1491 leads outside the years 1900 to 2099"),
+                (("--start-week", "54"), "--start-week: expected a number from 1 to 53, not '54'"),
+                (("--mode", "year"),
+                 "--mode: expected one of rolling, tail, month, strip, not 'year'"),
+                (("--color", "x"), "--color: expected one of auto, always, never, not 'x'"),
+                (("--tui", "--json"), "--tui: cannot be combined with --json"),
+                (("--json", "--dump"), "--dump: cannot be combined with --json"),
+                (("--day", "2024-02-30"), "--day: 2024-02-30 is not a day of the calendar"),
+                (("--year", "1899", "--list"),
+                 "--year: expected a number from 1900 to 2099, not '1899'"),
+                (("--year", "2025"), "--year: is for --list"),
+                (("--list", "--day", "2024-01-01"), "--day: cannot be combined with --list"),
+                (("--tui", "--list"), "--list: cannot be combined with --tui"),
+                (("--tui",), "--tui needs a terminal"),
+        ]:
+            result = run(*arguments)
+            self.assertEqual((result.returncode, result.stdout, result.stderr),
+                             (2, "", f"almara-board: {line}\n"), arguments)
+        for arguments in (("--language", "french"), ("--break-days", "sat,x"), ("--break-days", ""),
+                          ("--first-day", "7"), ("--week-rule", "us"), ("--nope",), ("2024",),
+                          ("--rows", "4\n5")):
+            result = run(*arguments)
+            self.assertEqual((result.returncode, result.stdout), (2, ""), arguments)
+            self.assertRegex(result.stderr, r"\Aalmara-board: [^\n]+\n\Z", arguments)
+
+    def test_the_last_offset_inside_the_calendar(self):
+        self.assertIn("January 1900", output("--mode", "month", "--offset", "-1490"))
+
+    def test_what_cannot_be_written_is_an_error(self):
+        with open("/dev/full", "w") as full:
+            result = subprocess.run([BOARD], env=environment(), stdout=full, stderr=subprocess.PIPE,
+                                    encoding="utf-8")
+        self.assertEqual((result.returncode, result.stderr),
+                         (1, "almara-board: could not write to the standard output\n"))
+
+
+if __name__ == "__main__":
+    unittest.main()
