@@ -1,0 +1,2 @@
+/* SPDX-License-Identifier: MIT */
+int empty_library_symbol;

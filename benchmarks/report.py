@@ -1,0 +1,201 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Runs the benchmark programs and prints how their medians compare.
+
+    report.py BUILD_DIRECTORY [--repetitions N] [--plot FILE.svg]
+
+Both sides of a ratio are measured in one run of one program, in random interleaving, on one core.
+Exits 1 if a goal is missed.
+"""
+
+import argparse
+import json
+import math
+import os
+import statistics
+import subprocess
+import sys
+
+PROGRAMS = [
+    "lunar/lunar_date_benchmark",
+    "lunar/solar_term_benchmark",
+    "logic/annotation_benchmark",
+    "logic/kept_answer_benchmark",
+    "board/board_build_benchmark",
+    "api/page_turn_benchmark",
+    "api/load_benchmark",
+]
+LANGUAGES = range(1, 11)
+MODES = range(1, 5)
+SIZES = [1000, 10000, 100000, 1000000]
+LIBRARY_LIMIT = 200_000  # bytes
+NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
+
+
+class Results:
+    """The median of each benchmark's repetitions, in nanoseconds, by name."""
+
+    def __init__(self):
+        self.runs = {}
+        self.counters = {}
+
+    def add(self, benchmark):
+        if benchmark["run_type"] != "iteration":
+            return
+        name = benchmark["name"]
+        for suffix in ("/iterations:1", "/iterations:3", "/manual_time"):
+            name = name.replace(suffix, "")
+        clock = "real_time" if "manual_time" in benchmark["name"] else "cpu_time"
+        time = benchmark[clock] * NANOSECONDS[benchmark["time_unit"]]
+        self.runs.setdefault(name, []).append(time)
+        if "bytes" in benchmark:
+            self.counters[name] = benchmark["bytes"]
+
+    def median(self, name):
+        return statistics.median(self.runs[name])
+
+    def ratio(self, numerator, denominator):
+        return self.median(numerator) / self.median(denominator)
+
+
+def run_programs(build, repetitions):
+    """Runs every program on one core and collects its results."""
+    core = max(os.sched_getaffinity(0))
+    results = Results()
+    for program in PROGRAMS:
+        print(f"running {program}", file=sys.stderr, flush=True)
+        output = subprocess.run(
+            ["taskset", "-c", str(core), os.path.join(build, "benchmarks", program),
+             "--benchmark_format=json", f"--benchmark_repetitions={repetitions}",
+             "--benchmark_enable_random_interleaving=true", "--benchmark_min_time=0.1"],
+            check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
+        for benchmark in json.loads(output)["benchmarks"]:
+            results.add(benchmark)
+    return results
+
+
+def stripped_size(build):
+    """Size of the shared library without symbols, in bytes."""
+    stripped = os.path.join(build, "libalmara-stripped.so")
+    subprocess.run(["strip", "-o", stripped, os.path.join(build, "libalmara.so")], check=True)
+    return os.path.getsize(stripped)
+
+
+def compare(results, build):
+    """Yields (work, against, measured ratio, goal text, met) of every row of the table."""
+
+    def faster(work, against, ratios, goal):
+        worst = min(ratios)
+        return work, against, f"{worst:.1f} times faster", f"at least {goal}", worst >= goal
+
+    def slower(work, against, ratios, goal):
+        worst = max(ratios)
+        if goal is None:
+            return work, against, f"{worst:.2f} times", "", True
+        return work, against, f"{worst:.2f} times", f"at most {goal}", worst <= goal
+
+    icu = "ICU's Chinese calendar"
+    ephemeris = "the 24 crossings by the Swiss Ephemeris"
+    yield faster("lunar date of every day of 2000 to 2050, in order", icu,
+                 [results.ratio("LunarDatesIcu/in_order", "LunarDates/in_order")], 50)
+    yield faster("the same in random order", icu,
+                 [results.ratio("LunarDatesIcu/random_order", "LunarDates/random_order")], 40)
+    yield faster("a year's table of 24 solar terms", ephemeris,
+                 [results.ratio("SolarTermsSwissEphemeris", "SolarTermTable")], 20)
+    yield faster("solar term of every day of a year", ephemeris,
+                 [results.ratio("SolarTermsSwissEphemeris", "SolarTermsOfEveryDay")], 5)
+    yield faster("all four look-ups of every day of a year, slowest language",
+                 "their plainest form",
+                 [results.ratio(f"AllLookups<yardstick::Engine>/{language}",
+                                f"AllLookups<CCalendarLogic>/{language}")
+                  for language in LANGUAGES], 40)
+    yield slower("board build, costliest arrangement", "its time-service calls",
+                 [results.ratio(f"BoardBuild/{mode}", f"BoardTimeServiceCalls/{mode}")
+                  for mode in MODES], 2)
+    yield faster("page turn, board and all look-ups", f"{icu} alone",
+                 [results.ratio(f"PageTurnsIcu/{mode}/24", f"PageTurns<CCalendarLogic>/{mode}/24")
+                  for mode in (1, 3)], 5)
+    yield slower("a look-up answered before", "one find in a std::map of that size",
+                 [results.ratio(f"KeptAnswers/{order}/{size}", f"MapFind/{order}/{size}")
+                  for order in ("in_order", "random_order") for size in SIZES], 1.25)
+    for order, goal in (("in_order", 3), ("random_order", None)):
+        yield slower(f"a look-up with 10^6 answers kept, {order.replace('_', ' ')}",
+                     "itself with 10^3",
+                     [results.ratio(f"KeptAnswers/{order}/1000000", f"KeptAnswers/{order}/1000")],
+                     goal)
+    yield slower("the std::map's find with 10^6 keys, random order", "itself with 10^3",
+                 [results.ratio("MapFind/random_order/1000000", "MapFind/random_order/1000")], None)
+    yield slower("loading the library", "loading an empty one",
+                 [results.ratio("Load/almara", "Load/empty")], None)
+    size = stripped_size(build)
+    yield ("stripped library", "", f"{size / 1000:.0f} kB", f"under {LIBRARY_LIMIT // 1000} kB",
+           size < LIBRARY_LIMIT)
+    yield ("memory kept for a date, all four look-ups answered", "",
+           f"{results.counters['BytesOfAnsweredDate']:.0f} bytes", "", True)
+
+
+def plot(results, path):
+    """Draws the cost of 24 page turns in the plain and in the present form, on a log scale."""
+    pages = range(1, 25)
+    series = [
+        ("plainest form", "#b0413e",
+         [results.median(f"PageTurn<yardstick::Engine>/{page}") / 1e3 for page in pages]),
+        ("now", "#2f6690",
+         [results.median(f"PageTurn<CCalendarLogic>/{page}") / 1e3 for page in pages]),
+    ]
+    left, top, width, height = 70, 40, 620, 260
+    decades = [10, 100, 1000, 10000, 100000]
+
+    def y(value):
+        return top + height * (1 - (math.log10(max(value, 10)) - 1) / (len(decades) - 1))
+
+    lines = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{left + width + 30}" '
+             f'height="{top + height + 60}" font-family="sans-serif" font-size="12">',
+             '<rect width="100%" height="100%" fill="white"/>',
+             f'<text x="{left}" y="20" font-size="14">Turning to a month never seen before: '
+             'microseconds for board and all look-ups</text>']
+    for decade in decades:
+        lines.append(f'<line x1="{left}" y1="{y(decade):.1f}" x2="{left + width}" '
+                     f'y2="{y(decade):.1f}" stroke="#ddd"/>'
+                     f'<text x="{left - 8}" y="{y(decade) + 4:.1f}" text-anchor="end">'
+                     f'{decade}</text>')
+    step = width / len(pages)
+    for name, colour, values in series:
+        for page, value in zip(pages, values):
+            x = left + (page - 0.5) * step
+            lines.append(f'<circle cx="{x:.1f}" cy="{y(value):.1f}" r="4" fill="{colour}">'
+                         f'<title>{name}, page {page}: {value:.0f}</title></circle>')
+    for page in (1, 6, 12, 18, 24):
+        lines.append(f'<text x="{left + (page - 0.5) * step:.1f}" y="{top + height + 18}" '
+                     f'text-anchor="middle">{page}</text>')
+    lines.append(f'<text x="{left + width / 2}" y="{top + height + 38}" text-anchor="middle">'
+                 'page, one month each, from January 2010</text>')
+    for row, (name, colour, _) in enumerate(series):
+        lines.append(f'<circle cx="{left + width - 110}" cy="{top + 14 + 18 * row}" r="4" '
+                     f'fill="{colour}"/><text x="{left + width - 100}" y="{top + 18 + 18 * row}">'
+                     f'{name}</text>')
+    lines.append("</svg>\n")
+    with open(path, "w", encoding="utf-8") as file:
+        file.write("\n".join(lines))
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("build")
+    parser.add_argument("--repetitions", type=int, default=5)
+    parser.add_argument("--plot", help="write the plot of page turns to this SVG file")
+    arguments = parser.parse_args()
+
+    results = run_programs(arguments.build, arguments.repetitions)
+    rows = list(compare(results, arguments.build))
+    print("| work | against | measured | goal |")
+    print("| --- | --- | --- | --- |")
+    for work, against, measured, goal, met in rows:
+        print(f"| {work} | {against} | {measured} | {goal}{'' if met else ' (MISSED)'} |")
+    if arguments.plot:
+        plot(results, arguments.plot)
+    return 0 if all(row[-1] for row in rows) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
