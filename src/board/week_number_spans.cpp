@@ -85,7 +85,7 @@ class WeekSpanBuilder {
 
   // A last row without any week number belongs to the span above.
   void EndLastRow() {
-    if (m_span.weekNumber == 0 && m_span.secondWeekNumber == 0 && !m_spans.empty()) {
+    if (m_span.weekNumber == 0 && !m_spans.empty()) {
       ++m_spans.back().rows;
     } else {
       Emit();
@@ -95,8 +95,8 @@ class WeekSpanBuilder {
   // Closes the span. Under ISO weeks on a board that starts on Sunday, a single leading Sunday of
   // the week before gives way to the week of the rest of the row.
   void Emit() {
-    if (m_isoWeeks && m_startDay == eCalendarWeekSunday && m_span.weekNumber >= 1 &&
-        m_span.firstWeekCells == 1 && m_span.secondWeekNumber >= 1 && m_span.secondWeekCells >= 1) {
+    if (m_isoWeeks && m_startDay == eCalendarWeekSunday && m_span.firstWeekCells == 1 &&
+        m_span.secondWeekNumber >= 1) {
       m_span.weekNumber = m_span.secondWeekNumber;
       m_span.secondWeekNumber = 0;
     }

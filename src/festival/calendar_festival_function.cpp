@@ -100,9 +100,7 @@ struct EasterCache {
   std::int32_t suEasterMonth = kNotComputed;
   std::int32_t suEasterDay = kNotComputed;
 
-  bool Holds(int year) const {
-    return suEasterMonth != kNotComputed && suEasterDay != kNotComputed && suEasterYear == year;
-  }
+  bool Holds(int year) const { return suEasterMonth != kNotComputed && suEasterYear == year; }
 
   void Compute(int year) {
     const MonthDay easter = AnonymousEaster(year);
@@ -158,7 +156,7 @@ int CCalendarFestivalFunction::_GetMaxDaysOfSolarMonth(int year, int month) {
 int CCalendarFestivalFunction::_GetEasterDay(int year, int* month, int* day) {
   static std::int32_t suEasterMonth = kNotComputed;
   static std::int32_t suEasterDay = kNotComputed;
-  if (suEasterMonth == kNotComputed || suEasterDay == kNotComputed) {
+  if (suEasterMonth == kNotComputed) {
     const GaussConstants* constants = GaussConstantsOf(year);
     if (constants == nullptr || month == nullptr || day == nullptr) {
       return 0;
@@ -188,8 +186,7 @@ int CCalendarFestivalFunction::_GetGoodFriday(int year, int* month, int* day) {
   if (month == nullptr || day == nullptr) {
     return 0;
   }
-  if (suGoodFridayDay == year && suGoodFridayMonth != kNotComputed &&
-      suGoodFridayDay != kNotComputed) {
+  if (suGoodFridayDay == year && suGoodFridayMonth != kNotComputed) {
     *month = suGoodFridayMonth;
     *day = year;
     return 1;

@@ -136,7 +136,7 @@ struct MovableFeasts {
 };
 
 bool IsMovable(const SolarFestivalRule& rule) {
-  return rule.kind == RuleKind::kEasterSunday || rule.kind == RuleKind::kGoodFriday;
+  return rule.kind != RuleKind::kDay && rule.kind != RuleKind::kWeekday;
 }
 
 MovableFeasts FeastsFor(ELanguage language, int year) {
@@ -166,9 +166,9 @@ bool Holds(const SolarFestivalRule& rule, CCalendarSolarDate date, const Movable
     case RuleKind::kEasterSunday:
       return date.month == feasts.easterMonth && date.day == feasts.easterDay;
     case RuleKind::kGoodFriday:
-      return date.month == feasts.goodFridayMonth && date.day == feasts.goodFridayDay;
+      break;
   }
-  return false;
+  return date.month == feasts.goodFridayMonth && date.day == feasts.goodFridayDay;
 }
 
 }  // namespace

@@ -19,10 +19,6 @@ struct LunarQuarter {
   std::array<tagSolarKyurekiChu, 4> terms;  // principal terms, the last one opens the next quarter
   std::array<double, 5> moons;              // day counts of the new moons
   std::array<LunarMonth, 5> months;         // those that begin with the new moons
-
-  bool Holds(double dayCount) const {
-    return terms.front().time <= dayCount && dayCount < terms.back().time;
-  }
 };
 
 // Finds the quarter that holds a local day count, in the zone in force. False, with quarter

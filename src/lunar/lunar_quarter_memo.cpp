@@ -17,22 +17,30 @@ bool MayShare(double dayCount, double zone) {
 
 }  // namespace
 
-const LunarQuarter* LunarQuarterMemo::QuarterOf(double dayCount) {
-  const double zone = CalendarPlatformApi::PlatformGetTimeZoneValue();
-  if (!MayShare(dayCount, zone)) {
-    return FindLunarQuarter(dayCount, m_unshared) ? &m_unshared : nullptr;
-  }
+void LunarQuarterMemo::ForgetOtherZones(double zone) {
   if (zone != m_zone) {
     m_quarters.clear();
     m_zone = zone;
   }
-  const auto kept = m_quarters.upper_bound(dayCount);
-  if (kept != m_quarters.end() && kept->second.Holds(dayCount)) {
-    return &kept->second;
+}
+
+const LunarQuarter* LunarQuarterMemo::QuarterOf(double dayCount) {
+  const double zone = CalendarPlatformApi::PlatformGetTimeZoneValue();
+  const bool mayShare = MayShare(dayCount, zone);
+  if (mayShare) {
+    ForgetOtherZones(zone);
+    const auto kept = m_quarters.upper_bound(dayCount);
+    if (kept != m_quarters.end() && kept->second.terms.front().time <= dayCount) {
+      return &kept->second;
+    }
   }
   LunarQuarter quarter{};
   if (!FindLunarQuarter(dayCount, quarter)) {
     return nullptr;
+  }
+  if (!mayShare) {
+    m_unshared = quarter;
+    return &m_unshared;
   }
   return &m_quarters.emplace(quarter.terms.back().time, quarter).first->second;
 }

@@ -18,6 +18,8 @@ class LunarQuarterMemo {
   const LunarQuarter* QuarterOf(double dayCount);
 
  private:
+  void ForgetOtherZones(double zone);
+
   std::map<double, LunarQuarter> m_quarters;  // by the time of their last term
   double m_zone = 0;                          // hours, of m_quarters
   LunarQuarter m_unshared{};
