@@ -10,7 +10,8 @@ declare -A PACKAGES=(
   [tests]="libgtest-dev libgmock-dev libfaketime libicu-dev libswe-dev libglib2.0-dev pkg-config clang
     valgrind libc6-dbg python3 python3-pexpect tmux tzdata abigail-tools"
   [fuzzers]="clang libclang-rt-14-dev"
-  [matrix]="clang valgrind g++-aarch64-linux-gnu qemu-user"
+  [matrix]="clang python3 g++-aarch64-linux-gnu qemu-user"
+  [mutation]="binutils git python3 util-linux"
   [coverage]="gcovr"
   [docs]="doxygen"
   [packages]="debhelper dpkg-dev fakeroot lintian debootstrap git"

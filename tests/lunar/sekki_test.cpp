@@ -193,6 +193,23 @@ TEST(SekkiLongitude, LiesWithinOneTurn) {
   }
 }
 
+// So far away that a double holds no more than every 512th degree.
+TEST(SekkiLongitude, ASumThatRoundingCarriesBeyondTheTurnIsBroughtBack) {
+  for (const double days : {3.3116549769566285e18, 1.044172087301109e17}) {
+    const double mean = CCalendarLunarSolarTerms::_SunMLong(days);
+    EXPECT_TRUE(mean < 0 || mean > 361) << mean;
+    const double longitude = CCalendarLunarSolarTerms::_SunLong(days);
+    EXPECT_TRUE(longitude >= 0 && longitude < 360) << longitude;
+  }
+}
+
+TEST(SekkiDayNumber, ChangesFromTheJulianCalendarToTheGregorian) {
+  CCalendarLunarSolarTerms calculator;
+  EXPECT_EQ(calculator._Ymd2Jd(1582, 10, 4), 2299159.0);
+  EXPECT_EQ(calculator._Ymd2Jd(1582, 10, 15), 2299160.0);
+  EXPECT_EQ(calculator._Ymd2Jd(1500, 3, 1), 2268992.0);
+}
+
 TEST(SekkiDayNumber, IsTheJulianDayAtNoonMinusOne) {
   CCalendarLunarSolarTerms calculator;
   EXPECT_EQ(calculator._Ymd2Jd(2000, 1, 1), 2451544.0);
