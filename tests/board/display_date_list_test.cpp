@@ -72,6 +72,14 @@ class DisplayDateList : public testing::Test {
   Board m_board;
 };
 
+TEST(DisplayDate, BlankIsWhatShowsNoPartOfADate) {
+  EXPECT_TRUE(CCalendarSolarDateEx{}.IsBlank());
+  EXPECT_TRUE(Hidden({2024, 3, 31}).IsBlank());
+  EXPECT_FALSE((CCalendarSolarDateEx{0, 0, 2, 0, 0, 0, 0, 0}).IsBlank());
+  EXPECT_FALSE((CCalendarSolarDateEx{0, 4, 0, 0, 0, 0, 0, 0}).IsBlank());
+  EXPECT_FALSE((CCalendarSolarDateEx{2024, 0, 0, 0, 0, 0, 0, 0}).IsBlank());
+}
+
 TEST_F(DisplayDateList, MonthLengths) {
   struct {
     int year, month, days;

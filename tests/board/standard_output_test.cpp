@@ -11,6 +11,7 @@
 #include <string>
 
 #include "support/capture_stdout.h"
+#include "support/leave_process.h"
 
 using almara_test::CaptureStdout;
 
@@ -45,13 +46,13 @@ void WriteAndExit(Redirect redirect) {
   sigpending(&pending);
   sigset_t mask;
   pthread_sigmask(SIG_SETMASK, nullptr, &mask);
-  _exit(sigismember(&pending, SIGPIPE) + 2 * sigismember(&mask, SIGPIPE));
+  almara_test::LeaveProcess(sigismember(&pending, SIGPIPE) + 2 * sigismember(&mask, SIGPIPE));
 }
 
 void BreakPipe() {
   int ends[2];
   if (pipe(ends) != 0 || dup2(ends[1], STDOUT_FILENO) < 0) {
-    _exit(99);
+    almara_test::LeaveProcess(99);
   }
   close(ends[0]);
 }

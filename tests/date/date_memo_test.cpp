@@ -66,6 +66,17 @@ TEST(DateMemo, DaysOutsideAMonthDoNotCollide) {
   EXPECT_EQ(answers.size(), days.size());
 }
 
+TEST(DateMemo, FindsOnlyWhatWasAsked) {
+  DateMemo<int> memo;
+  memo.GetOrCompute(1, {2024, 3, 9, 0}, [] { return 7; });
+  ASSERT_NE(memo.Find(1, {2024, 3, 9, 5}), nullptr);
+  EXPECT_EQ(*memo.Find(1, {2024, 3, 9, 5}), 7);
+  EXPECT_EQ(memo.Find(1, {2024, 3, 10, 0}), nullptr);
+  EXPECT_EQ(memo.Find(1, {2024, 4, 9, 0}), nullptr);
+  EXPECT_EQ(memo.Find(2, {2024, 3, 9, 0}), nullptr);
+  EXPECT_EQ(memo.Size(), 1U);
+}
+
 TEST(DateMemo, AnswerThatThrewIsComputedAgain) {
   DateMemo<int> memo;
   EXPECT_THROW(

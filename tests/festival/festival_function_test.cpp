@@ -256,6 +256,15 @@ TEST(GoodFridayRule, ComparesItsDayWithTheYear) {
   EXPECT_NE(GoodFriday(29), MonthDay(3, 29));
 }
 
+TEST(GoodFridayRule, AFreshProcessDoesNotTakeYearMinusOneForKept) {
+  EXPECT_TRUE(HoldsInFreshProcess([] {
+    int month = 0;
+    int day = 0;
+    Function::_GetGoodFriday(-1, &month, &day);
+    return month >= 2 && month <= 4 && day >= 1 && day <= 31;
+  }));
+}
+
 TEST(GoodFridayRule, ATakenYearLeavesTheMemoryOfTheAnonymousRuleAlone) {
   Anonymous(2000);
   GoodFriday(2024);

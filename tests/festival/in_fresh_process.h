@@ -10,6 +10,8 @@
 
 #include <stdexcept>
 
+#include "support/leave_process.h"
+
 // The int that compute returns in a child process.
 template <typename Compute>
 int ValueInFreshProcess(Compute compute) {
@@ -20,7 +22,7 @@ int ValueInFreshProcess(Compute compute) {
   const pid_t child = fork();
   if (child == 0) {
     const int value = compute();
-    _exit(write(ends[1], &value, sizeof value) == sizeof value ? 0 : 1);
+    almara_test::LeaveProcess(write(ends[1], &value, sizeof value) == sizeof value ? 0 : 1);
   }
   close(ends[1]);
   int value = 0;

@@ -158,4 +158,15 @@ TEST_F(LunarFestivals, EveryIntIsAnswered) {
   }
 }
 
+// Far away, where the method finds a leap month 12: the month before it ends on 21 January 5572.
+TEST_F(LunarFestivals, AMonth12ThatALeapMonthFollowsHasNoEve) {
+  ASSERT_EQ(m_owner.ConverterLunar({5572, 1, 21, 0}).day, 29);
+  ASSERT_EQ(m_owner.ConverterLunar({5572, 1, 22, 0}).leap, 1);
+  for (const ELanguage language : {eLanguageChs, eLanguageCht, eLanguageVit}) {
+    EXPECT_EQ(Festival(language, 5572, 1, 21), eFestivalLunarNone);
+    EXPECT_EQ(Festival(language, 5572, 2, 19), eFestivalLunarNone) << "a day of the leap month";
+    EXPECT_EQ(Festival(language, 5572, 2, 20), eFestivalLunarNewYearsDay);
+  }
+}
+
 }  // namespace

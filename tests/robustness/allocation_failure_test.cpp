@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Every allocation of a build and of a look-up fails once. This program has an operator new of its
-// own for that.
+// Every allocation of a build, of a look-up and of the options' text fails once. This program has
+// an operator new of its own for that, and a malloc() between the engine and the C library's.
+#include <almara/almara.h>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -17,10 +18,13 @@
 #include "support/board.h"
 #include "support/capture_stdout.h"
 
+extern "C" void* __real_malloc(std::size_t size);
+
 namespace {
 
 int g_allocationsLeft = -1;  // until one fails; below 0 none does
 int g_liveAllocations = 0;
+bool g_mallocFails = false;
 
 void* Allocate(std::size_t size) {
   if (g_allocationsLeft == 0) {
@@ -29,7 +33,7 @@ void* Allocate(std::size_t size) {
   if (g_allocationsLeft > 0) {
     --g_allocationsLeft;
   }
-  void* const memory = std::malloc(size);
+  void* const memory = __real_malloc(size);
   if (memory == nullptr) {
     throw std::bad_alloc();
   }
@@ -45,6 +49,10 @@ void Release(void* memory) {
 }
 
 }  // namespace
+
+extern "C" void* __wrap_malloc(std::size_t size) {
+  return g_mallocFails ? nullptr : __real_malloc(size);
+}
 
 void* operator new(std::size_t size) { return Allocate(size); }
 void* operator new[](std::size_t size) { return Allocate(size); }
@@ -220,5 +228,14 @@ const LookupCase kLookups[] = {
 
 INSTANTIATE_TEST_SUITE_P(All, FailingLookup, testing::ValuesIn(kLookups),
                          [](const auto& tested) { return std::string(tested.param.name); });
+
+TEST(FailingConfigKey, IsNullAndTheNextOneIsRight) {
+  g_mallocFails = true;
+  EXPECT_EQ(GetConfigKey(), nullptr);
+  g_mallocFails = false;
+  char* const key = GetConfigKey();
+  EXPECT_STREQ(key, "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1");
+  std::free(key);
+}
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <ctime>
 
 #include "date/calendar_platform_api.h"
+#include "festival/calendar_festival_function.h"
 #include "robustness/failures_to_stderr.h"
 #include "support/board.h"
 #include "support/capture_stdout.h"
@@ -155,6 +156,16 @@ TEST_F(TimeFailure, WithoutInstantsEveryWeekIsTheFirstOfItsYear) {
   g_faults = kNoInstant;
   EXPECT_EQ(weeks._GetWeekOfYear(2024, 11, 20), 1);
   EXPECT_EQ(weeks._GetWeekNumber(2024, 11, 20), 47) << "ISO weeks ask no clock";
+}
+
+TEST_F(TimeFailure, WithoutLocalTimeNoWeekdayOfAMonthAndNoGoodFridayIsFound) {
+  g_faults = kNoLocalTime;
+  EXPECT_EQ(CCalendarFestivalFunction::_GetDayByWeekNumberOfMonth(2024, 5, 2, 0), -1);
+  int month = 7;
+  int day = 7;
+  EXPECT_EQ(CCalendarFestivalFunction::_GetGoodFriday(2024, &month, &day), 1);
+  EXPECT_EQ(month, 0);
+  EXPECT_EQ(day, 0);
 }
 
 TEST_F(TimeFailure, WithoutInstantsBoardsKeepTheirSize) {
