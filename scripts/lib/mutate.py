@@ -127,7 +127,7 @@ class Tree:
 
     def run(self, command, seconds, check=False):
         self.log.flush()
-        limited = ["prlimit", "--as=6000000000", "--", *command]
+        limited = ["prlimit", "--data=4000000000", "--", *command]
         try:
             return subprocess.run(limited, stdin=subprocess.DEVNULL, stdout=self.log,
                                   stderr=self.log, timeout=seconds, check=check).returncode == 0

@@ -20,7 +20,7 @@ declare -A PACKAGES=(
 )
 # Node.js and npm come from many places; Debian's are taken only where there are none.
 if ! command -v node >/dev/null || ! command -v npm >/dev/null; then
-  PACKAGES[tests]+=" nodejs npm"
+  PACKAGES[tests]+=" nodejs npm ca-certificates"
 fi
 
 # missing_packages <package>...: prints those that are not installed.

@@ -63,11 +63,15 @@ function testTextsAreReleased(engine) {
   const sizes = Array.from({ length: 10 }, (_, index) => [`field${index}`, 'size_t']);
   const usage = koffi.load(null).func('mallinfo2', koffi.struct(Object.fromEntries(sizes)), []);
   assert.match(engine.GetConfigKey(), /^1-5-7-1-1-1-\d/);
-  const before = usage().field7;
-  for (let call = 0; call < 20000; call++) {
-    engine.GetConfigKey();
-  }
-  assert(usage().field7 - before < 200000, 'the text of GetConfigKey() is not released');
+  // Node.js allocates as well, now and then; texts that nobody releases add up in every round.
+  const growths = Array.from({ length: 5 }, () => {
+    const before = usage().field7;
+    for (let call = 0; call < 20000; call++) {
+      engine.GetConfigKey();
+    }
+    return usage().field7 - before;
+  });
+  assert(Math.min(...growths) < 200000, 'the text of GetConfigKey() is not released');
 }
 
 const engine = almara.load();
