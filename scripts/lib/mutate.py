@@ -111,14 +111,19 @@ class Tree:
         self.build = WORK / f"build{number}"
         self.log = open(WORK / f"log{number}", "w", encoding="utf-8")
 
-    def prepare(self):
-        shutil.rmtree(self.source, ignore_errors=True)
+    def copy_project(self):
+        """Writes what differs from the project only, so that the build of another run serves."""
         listed = subprocess.run(["git", "ls-files", "-z", "--cached", "--others",
                                  "--exclude-standard"], cwd=ROOT, check=True,
                                 stdout=subprocess.PIPE).stdout.decode().split("\0")
         for name in filter(lambda name: name and (ROOT / name).exists(), listed):
-            (self.source / name).parent.mkdir(parents=True, exist_ok=True)
-            shutil.copy2(ROOT / name, self.source / name)
+            copy = self.source / name
+            copy.parent.mkdir(parents=True, exist_ok=True)
+            if not copy.exists() or copy.read_bytes() != (ROOT / name).read_bytes():
+                shutil.copy(ROOT / name, copy)
+
+    def prepare(self):
+        self.copy_project()
         self.run(["cmake", "-S", str(self.source), "-B", str(self.build), "-G", "Ninja",
                   "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS=-O1 -g0",
                   "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold"], 600, check=True)
