@@ -98,4 +98,8 @@ TEST(CalendarItem, TextWritesNegativeFieldsWithTheirSign) {
             "(-2147483648)-2147483648--2147483648--2147483648");
 }
 
+TEST(CalendarItem, NoTextIsLongerThanItsRoom) {
+  EXPECT_LE(Item(kMin, {kMin, kMin, kMin, 0}).GetDay().size(), CCalendarItem::kMaxDayLength + 0U);
+}
+
 }  // namespace

@@ -234,6 +234,13 @@ TEST(WeekHelpers, DayOfTheWeek) {
   EXPECT_EQ(weeks._GetDayOfTheWeek(2024, 1, 7), 0);
 }
 
+TEST(WeekHelpers, DayOfTheWeekOfEveryDate) {
+  const CCalendarWeekNumber weeks;
+  for (almara_test::Civil d{1900, 1, 1}; d.year <= 2099; d = almara_test::NextDay(d)) {
+    ASSERT_EQ(weeks._GetDayOfTheWeek(d.year, d.month, d.day), almara_test::DayOfWeek(d)) << d;
+  }
+}
+
 TEST(WeekHelpers, DayOfTheWeekOutsideTheMonthsReadsNothing) {
   const CCalendarWeekNumber weeks;
   for (const int month : {0, 13, kMin, kMax}) {
@@ -279,6 +286,19 @@ TEST(WeekHelpers, DayAndMonthFromDayInYear) {
     EXPECT_EQ(weeks._GetDayAndMonthFromDayInYear(c.year, c.dayInYear, &month, &day), 1);
     EXPECT_EQ(month, c.month);
     EXPECT_EQ(day, c.day);
+  }
+}
+
+TEST(WeekHelpers, DayAndMonthFromEveryDayInYear) {
+  const CCalendarWeekNumber weeks;
+  for (const int year : {2023, 2024}) {
+    int dayInYear = 0;
+    for (almara_test::Civil d{year, 1, 1}; d.year == year; d = almara_test::NextDay(d)) {
+      int month = 0;
+      int day = 0;
+      weeks._GetDayAndMonthFromDayInYear(year, ++dayInYear, &month, &day);
+      EXPECT_EQ(almara_test::Civil({year, month, day}), d);
+    }
   }
 }
 

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <limits>
 #include <utility>
 
 #include "festival/calendar_festival_function.h"
 #include "in_fresh_process.h"
+#include "support/civil.h"
+
+using almara_test::DaysOfMonth;
 
 namespace {
 
@@ -59,8 +63,8 @@ TEST(DaysOfMonth, FollowTheGregorianRule) {
   EXPECT_EQ(Function::_GetMaxDaysOfSolarMonth(1900, 2), 28);
   EXPECT_EQ(Function::_GetMaxDaysOfSolarMonth(2000, 2), 29);
   for (int month = 1; month <= 12; ++month) {
-    EXPECT_EQ(Function::_GetMaxDaysOfSolarMonth(2023, month),
-              Function::s_ArrDaysOfSolarMonth[month - 1]);
+    EXPECT_EQ(Function::_GetMaxDaysOfSolarMonth(2023, month), DaysOfMonth(2023, month));
+    EXPECT_EQ(Function::s_ArrDaysOfSolarMonth[month - 1], DaysOfMonth(2023, month));
   }
 }
 
@@ -201,6 +205,29 @@ TEST(AnonymousEaster, AFreshProcessDoesNotTakeYearMinusOneForKept) {
 TEST(AnonymousEaster, AgreesWithGaussInEveryYearOfItsRule) {
   for (int year = 1583; year <= 2299; ++year) {
     EXPECT_EQ(Anonymous(year), Gauss(year)) << year;
+  }
+}
+
+// Golden number and epact, corrected for the century: the rule as the reform of 1582 set it.
+MonthDay EasterByEpact(std::int64_t year) {
+  const std::int64_t golden = year % 19 + 1;
+  const std::int64_t century = year / 100 + 1;
+  const std::int64_t leapYearsLeftOut = 3 * century / 4 - 12;
+  const std::int64_t moonsOrbit = (8 * century + 5) / 25 - 5;
+  const std::int64_t sunday = 5 * year / 4 - leapYearsLeftOut - 10;
+  std::int64_t epact = ((11 * golden + 20 + moonsOrbit - leapYearsLeftOut) % 30 + 30) % 30;
+  if ((epact == 25 && golden > 11) || epact == 24) {
+    ++epact;
+  }
+  std::int64_t day = 44 - epact;
+  day += day < 21 ? 30 : 0;
+  day += 7 - (sunday + day) % 7;
+  return day > 31 ? MonthDay(4, day - 31) : MonthDay(3, day);
+}
+
+TEST(AnonymousEaster, AgreesWithGoldenNumberAndEpactInEveryYear) {
+  for (int year = 1583; year <= 30000; ++year) {
+    ASSERT_EQ(Anonymous(year), EasterByEpact(year)) << year;
   }
 }
 
