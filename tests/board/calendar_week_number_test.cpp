@@ -88,6 +88,20 @@ TEST(WeekNumber, FirstOfJanuaryIsWeek1AndTheMondayBehindItBeginsWeek2) {
   }
 }
 
+// A week belongs to the year of its Thursday.
+int WeekOfItsThursday(const almara_test::Civil& d) {
+  const int sinceMonday = (almara_test::DayOfWeek(d) + 6) % 7;
+  const almara_test::Civil thursday = almara_test::AddDays(d, 3 - sinceMonday);
+  return (almara_test::DayNumber(thursday) - almara_test::DayNumber({thursday.year, 1, 1})) / 7 + 1;
+}
+
+TEST(WeekNumber, EveryDateUnderTheIsoRule) {
+  const CCalendarWeekNumber weeks;
+  for (almara_test::Civil d{1900, 1, 1}; d.year <= 2099; d = almara_test::NextDay(d)) {
+    ASSERT_EQ(weeks._GetWeekNumber(d.year, d.month, d.day), WeekOfItsThursday(d)) << d;
+  }
+}
+
 TEST(WeekNumber, RangeOfDatesHasBothEnds) {
   CCalendarWeekNumber weeks;
   struct {
