@@ -8,8 +8,8 @@
 #include <bitset>
 #include <cstddef>
 #include <cstdint>
-#include <map>
 #include <numeric>
+#include <unordered_map>
 
 // The answers given so far about dates, kept for good. A question is a variant (a language, a rule)
 // and a date's year, month and day, each any int; the day of week is no part of it. The memo grows
@@ -66,6 +66,19 @@ class DateMemo {
   // Variant, year, month, and the part of the day that does not select the answer within the page.
   using PageKey = std::array<std::int32_t, 4>;
 
+  // A page is found in a few reads of memory however many there are, which a tree's depth would
+  // multiply.
+  struct HashOfPage {
+    std::size_t operator()(const PageKey& key) const {
+      std::uint64_t hash = 0;
+      for (const std::int32_t part : key) {
+        hash = (hash ^ static_cast<std::uint32_t>(part)) * 0x9E3779B97F4A7C15U;
+        hash ^= hash >> 32U;
+      }
+      return static_cast<std::size_t>(hash);
+    }
+  };
+
   static PageKey KeyOf(std::int32_t variant, const CCalendarSolarDate& date) {
     const std::uint32_t block = static_cast<std::uint32_t>(date.day) / kDaysOfPage;
     return {variant, date.year, date.month, static_cast<std::int32_t>(block)};
@@ -83,7 +96,7 @@ class DateMemo {
     return *m_lastPage;
   }
 
-  std::map<PageKey, Page> m_pages;
+  std::unordered_map<PageKey, Page, HashOfPage> m_pages;
   PageKey m_lastKey{};
   Page* m_lastPage = nullptr;  // of m_lastKey
 };
