@@ -27,13 +27,15 @@
  *
  * Errors: there are no error codes. Every function accepts every value of its arguments. An
  * argument that makes no sense is ignored or gives the fallback stated with the function, and a
- * date that no board can be built for leaves the board as it was. A failed allocation propagates
- * as the C++ exception std::bad_alloc; the engine stays usable. Where it was the allocation of a
- * board, the board is empty, as before the first build.
+ * date that no board can be built for leaves the dates on the board, and the date it is built for,
+ * as they were; only which rows and columns are visible, and the spans, are worked out again under
+ * the options now in force. A failed allocation propagates as the C++ exception std::bad_alloc; the
+ * engine stays usable. Where it was the allocation of a board, the board is empty, as before the
+ * first build.
  *
  * Memory: a board takes about 300 bytes a row, and a list entry of 32 bytes for each listed day.
- * Rows and passed weeks are not limited, so a host must not ask for millions of them. The answers
- * of step 5 are kept without a limit, one for each distinct date and language asked.
+ * Rows are not limited, so a host must not ask for millions of them. The answers of step 5 are kept
+ * without a limit, one for each distinct date and language asked.
  *
  * Output: every board build writes the board as text to the standard output, and GotoTodayOffset()
  * writes the date it went to.
@@ -83,7 +85,8 @@ ALMARA_EXPORT CCalendarSolarDate CreateSolarDate(int32_t year, int32_t month, in
  *
  * @param language ::ELanguage. 1 and 4 set UTC+8, 2 and 7 set UTC+9, whatever zone the machine runs
  *     in. Any other value leaves the zone as it is; where none was set yet, the machine's own
- * offset of this moment is taken, in whole hours and truncated toward zero (UTC-3:30 gives -3).
+ *     offset of this moment is taken, in whole hours and truncated toward zero (UTC-3:30 gives -3).
+ *     GetToday() and every other call that builds a board do the same where no zone was set yet.
  *
  * May be called again; the board returns to today. Answers that the annotation functions gave
  * before keep the zone they were computed with.
@@ -102,35 +105,41 @@ ALMARA_EXPORT void GotoToday(void);
 
 /**
  * Pages backward. In the month arrangements (::EDispMonth 2 and 3) to the 1st of the month before
- * the board's date; in all others to a board that ends with the day before the first one shown.
- * Before the first build it leaves the board empty. At the start of 1900 the board stays as it is.
+ * the board's date; in the day strip to a board that ends with the day before the first one shown;
+ * in rolling weeks to one whose last row is that day's week. Before the first build, and at the
+ * start of 1900, the dates of the board stay as they are.
  *
- * The page direction stays in force until another navigation sets it: switching from rolling weeks
- * to arrangement 2 after paging gives a board without rows until GotoToday() or GotoSpecifiedDate()
- * within the board.
+ * Outside the month arrangements this sets the page direction, even at the start of 1900. It stays
+ * in force until another navigation sets or clears it, also when the arrangement is changed. Under
+ * a page direction arrangement 2 has no rows, and arrangement 3 may begin behind the 1st of the
+ * month. GotoToday() and InitCalendarLogicDt() clear it, and so does GotoTodayOffset() in
+ * arrangement 2.
  */
 ALMARA_EXPORT void GotoPreviousPage(void);
 
 /**
- * Pages forward: to the 1st of the month after the board's date, or to a board that begins with the
- * day after the last one shown. At the end of 2099 the board stays as it is. Otherwise as
- * GotoPreviousPage().
+ * Pages forward: to the 1st of the month after the board's date, to a strip that begins with the
+ * day after the last one shown, or to rolling weeks whose first row is that day's week; the days of
+ * that week before it are kept back under month intervals and shown without. At the end of 2099 the
+ * dates of the board stay as they are. Otherwise as GotoPreviousPage().
  */
 ALMARA_EXPORT void GotoNextPage(void);
 
 /**
  * Builds the board of a date. Outside the whole-month arrangement, a date before the first day
- * shown becomes the end of the new board and a date behind the last one its beginning, as if paged
- * to.
+ * shown or behind the last one is gone to as if paged to, page direction included: in the day strip
+ * it becomes the last or the first day, in rolling weeks its week the last or the first row, and
+ * arrangement 2 has no rows then. The first call on an empty board counts as one behind the last
+ * day. A date within the board keeps the page direction.
  *
  * @param year 1900 to 2099
  * @param month 1 to 12
  * @param day 1 to 31; a day that the month does not have counts on into the next month (31 April
  *     is 1 May)
  *
- * All three 0 build today's board, as GotoToday() does. Any other value leaves the board as it was
- * (it is written to the standard output again), yet outside the whole-month arrangement sets the
- * page direction all the same.
+ * All three 0 build today's board, as GotoToday() does. Any other value leaves the dates of the
+ * board as they were (they are written to the standard output again), yet outside the whole-month
+ * arrangement sets the page direction all the same.
  */
 ALMARA_EXPORT void GotoSpecifiedDate(int32_t year, int32_t month, int32_t day);
 
@@ -143,8 +152,9 @@ ALMARA_EXPORT void GotoSpecifiedDate(int32_t year, int32_t month, int32_t day);
  *     are formed in 32-bit wrapping arithmetic, so more than 24855 days do not lead where a reader
  *     would expect.
  *
- * A target outside 1900 to 2099 leaves the board as it was. Writes "build-logic Y-M-D" (whole
- * month: "Y-M-D") to the standard output, without a line end.
+ * A target outside 1900 to 2099 leaves the dates of the board as they were. Writes "build-logic
+ * Y-M-D" (whole month: "Y-M-D", the day -1 outside 1900 to 2099) to the standard output, without a
+ * line end.
  */
 ALMARA_EXPORT void GotoTodayOffset(int32_t offset);
 
@@ -153,7 +163,9 @@ ALMARA_EXPORT void GotoTodayOffset(int32_t offset);
 /** Visible rows, 0 to 50; 0 before the first build. */
 ALMARA_EXPORT int32_t GetContentRows(void);
 
-/** Visible columns, 0 to 7; 0 before the first build. */
+/** Visible columns, 0 to 7; 0 before the first build. A rejected date then makes it 7, without
+ * rows.
+ */
 ALMARA_EXPORT int32_t GetContentColumns(void);
 
 /**
@@ -173,7 +185,7 @@ ALMARA_EXPORT tagCalendarCell GetContentItem(int32_t row, int32_t column);
  * @return ::ECalendarWeek. In the day strip the weekday of the date shown there, 0 for a column
  * that is not visible. Otherwise (start day of week + board column) mod 7: for columns from
  *     GetContentColumns() to 6 the start day of week mod 7, for columns below 0 or above 6 it is 0,
- *     and with a start day of week below 0 it may be negative.
+ *     and with a start day of week below 0, or where the sum wraps, it may be negative.
  */
 ALMARA_EXPORT ECalendarWeek GetCalendarWeekByColumns(int32_t column);
 
@@ -217,8 +229,9 @@ ALMARA_EXPORT bool IsTodayInBoard(void);
  * The lunar date of a Gregorian date: the Chinese lunisolar calendar reckoned in the zone in force.
  *
  * @param date meant for 1900 to 2099. Any other year is converted by the same series, which grow
- *     worse with the distance; from about a million years away there may be no answer, and more
- *     than 5.87 million years away there is none.
+ *     worse with the distance: some ten thousand years away the day may lie outside its range, from
+ *     about a million years away there may be no answer, and more than 5.88 million years away
+ *     there is none.
  * @return the lunar date; all zeroes for no answer.
  *     - year: the Gregorian year in which the lunar year began
  *     - month: 1 to 12
@@ -254,8 +267,8 @@ ALMARA_EXPORT ESolarKyureki24 Check24SekkiWithDate(CCalendarSolarDate date);
  * @param language ::ELanguage. Its region's own festival wins over a common one on the same day: 25
  *     December is 3006 in Korean and 1011 elsewhere. A value without a region has the common ones.
  * @param date any year. Festivals on the n-th weekday of a month are found from 1900 to 2099 only.
- * @return ::EFestivalSolar, 0 for none. A date that does not exist has none; see below for the one
- *     exception.
+ * @return ::EFestivalSolar, 0 for none. A date that does not exist has none; see below for the
+ *     exceptions.
  *
  * Easter Sunday (eFestivalSolarEaster, eLanguageUsa) is found only if the last eLanguageUsa date
  * worked out before was of the same year. Two consequences of answers being kept:
@@ -266,7 +279,8 @@ ALMARA_EXPORT ESolarKyureki24 Check24SekkiWithDate(CCalendarSolarDate date);
  *   leaves 2025 the last year.
  *
  * Good Friday is found at once, except in the years 1 to 31, where it may be another year's. The
- * first eLanguageUsa date of a year, if it has month 0 and day 0, gives 4003.
+ * first eLanguageUsa date of a year, if it has month 0 and day 0, gives 4003, and before year 1 the
+ * rule of Easter may give a 30 or 31 February.
  */
 ALMARA_EXPORT EFestivalSolar CheckFestivalSolarWithLang(ELanguage language,
                                                         CCalendarSolarDate date);
@@ -295,8 +309,8 @@ ALMARA_EXPORT void SetDispMonth(EDispMonth mode);
 ALMARA_EXPORT int32_t GetMaxRow(void);
 
 /**
- * Sets the week rows. Not checked: with 0 or less a rolling board has no rows. At most 50 rows
- * become visible. Useful are 1 to 50; memory and time grow with the value.
+ * Sets the week rows. Not checked: with 0 or less arrangement 1 has no rows. At most 50 rows become
+ * visible. Useful are 1 to 50; memory and time grow with the value.
  */
 ALMARA_EXPORT void SetMaxRow(int32_t rows);
 
@@ -344,8 +358,9 @@ ALMARA_EXPORT void SetHideBreakDay(bool hide);
 ALMARA_EXPORT bool GetShowMonthInterval(void);
 
 /**
- * Sets whether a band of seven cells is inserted before the first day of a month and the days
- * before the board's month are kept back; true at first.
+ * Sets whether a band of seven cells is inserted before the first day of a month, and the days that
+ * only fill the first row are kept back: those before the board's month or, behind a page forward
+ * in arrangement 1, before the board's date. True at first.
  */
 ALMARA_EXPORT void SetShowMonthInterval(bool show);
 
@@ -358,7 +373,13 @@ ALMARA_EXPORT void SetShowBreakDayOfWeek(bool show);
 /** The rule for week numbers, ::EWeekNumberCalc as it was set; 1 (ISO 8601) by default. */
 ALMARA_EXPORT EWeekNumberCalc GetWeekNumberCalcType(void);
 
-/** Sets the rule for week numbers. Not checked: any value but 1 and 2 counts as 0. */
+/**
+ * Sets the rule for week numbers. Not checked: any value but 1 and 2 counts as 0.
+ *
+ * All rules but 1 count days by the seconds of local time since 1 January. Where the clocks have
+ * gone forward since then, every date is a day short until they go back: in Berlin, 1 April 2024, a
+ * Monday, is still in week 13. The first answer for a date is kept for good.
+ */
 ALMARA_EXPORT void SetWeekNumberCalcType(EWeekNumberCalc type);
 
 /**

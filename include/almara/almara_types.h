@@ -44,7 +44,7 @@ typedef struct CCalendarSolarDate {
 typedef struct CCalendarLunarDate {
   int32_t year;     /**< the Gregorian year in which the lunar year began */
   int32_t month;    /**< lunar month, 1 to 12 */
-  int32_t day;      /**< day of the lunar month, 1 to 30 */
+  int32_t day;      /**< day of the lunar month, 1 to 30 (see ConverterLunarWithDate()) */
   int32_t reserved; /**< always 0 */
   int32_t leap;     /**< 1 in a leap month, else 0; a leap month has the number of the one before */
 } CCalendarLunarDate;
@@ -57,9 +57,9 @@ typedef int32_t ECalendarItem;
 /** Values of ::ECalendarItem. */
 enum {
   eCalendarItemEmpty = 1,         /**< grid position beyond the last date; its date is 0, 0, 0 */
-  eCalendarItemBlank = 2,         /**< filler of a month interval (date 0, 0, 0), or a day before
-                                       the board's month that is kept but not shown (real date, day
-                                       of week 0) */
+  eCalendarItemBlank = 2,         /**< filler of a month interval (date 0, 0, 0), or a day that
+                                       only fills the first row and is kept back (real date, day of
+                                       week 0) */
   eCalendarItemDay = 3,           /**< ordinary day */
   eCalendarItemToday = 4,         /**< today, not a break day */
   eCalendarItemBreakDay = 5,      /**< break day, not today */
@@ -93,7 +93,8 @@ typedef int32_t EDispMonth;
 /** Values of ::EDispMonth. */
 enum {
   eDispMonthRollingWeeks = 1, /**< a fixed number of weeks around the chosen date (default) */
-  eDispMonthRollingTail = 2,  /**< the month from its first week, at least the wanted rows */
+  eDispMonthRollingTail = 2,  /**< the month from its first week, at least the wanted rows; none
+                                   while a page direction is in force, see GotoPreviousPage() */
   eDispMonthWholeMonth = 3,   /**< exactly the weeks that hold a day of the month */
   eDispMonthDayStrip = 4      /**< one row of consecutive days, the chosen one in the middle */
 };
@@ -113,7 +114,8 @@ enum {
 
 /**
  * Language region: selects the time zone that InitCalendarLogicDt() fixes and the festivals.
- * Any other value, 0 included, selects no region: the machine's zone, common festivals only.
+ * Any other value, 0 included, selects no region: common festivals only. "The machine's zone" is
+ * taken only where no zone was set before.
  */
 typedef int32_t ELanguage;
 
@@ -177,8 +179,8 @@ typedef int32_t EFestivalSolar;
 enum {
   eFestivalSolarNone = 0,
 
-  /* Common: found for every language unless the region has one of its own on the day. The last
-     five are found in the regions named only. */
+  /* Common: found for every language unless the region has one of its own on the day. 1006 and the
+     last five are found in the regions named only. */
   eFestivalSolarNewYearsDay = 1000,   /**< 1 January */
   eFestivalSolarWomensDay = 1001,     /**< 8 March */
   eFestivalSolarAprilFoolsDay = 1002, /**< 1 April */

@@ -13,8 +13,9 @@
 // days that a short month lacks count on (30 February is 1 or 2 March). Any other date gives -1.
 class CCalendarWeekNumber {
  public:
-  // The week number under calcType; a type other than 1 counts from 1 January. Every answer, -1
-  // included, is kept for good, also when the process's time zone changes.
+  // The week number under calcType; a type other than 1 counts from 1 January. Its answers, -1
+  // included, are kept for good, also when the process's time zone changes; ISO weeks depend on
+  // nothing but the date.
   int GetWeekNumber(int year, int month, int day, EWeekNumberCalc calcType);
 
   // ISO 8601 week, 1 to 53.

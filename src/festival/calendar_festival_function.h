@@ -34,7 +34,7 @@ class CCalendarFestivalFunction {
 
   // The Friday before Easter Sunday of any year. 1 with month and day written, 0 where a pointer is
   // null. Where the day computed last equals the year, the month computed last is written with the
-  // year as the day, so a year 13 to 31 may answer with another year's date.
+  // year as the day, so a year 1 to 31 may answer with another year's date.
   static int _GetGoodFriday(int year, int* month, int* day);
 };
 

@@ -14,7 +14,8 @@
 // queries of the built board and the annotation of dates.
 //
 // Each navigation rebuilds the whole board; each query reads the last build. A date that no board
-// can be built for (outside 1900 to 2099) leaves the board as it was. To be driven from one thread.
+// can be built for (outside 1900 to 2099) leaves its rows as they were. To be driven from one
+// thread.
 class CCalendarLogic : public CCalendarLogicBuild {
  public:
   CCalendarLogic() : m_festival(this) {}
