@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "lunar/calendar_lunar_solar_terms.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "date/calendar_platform_api.h"

@@ -13,8 +13,8 @@ constexpr double kDaysOfLunation = 29.530589;         // days in which the Moon 
 
 // A search for the Sun is given up behind this many steps. Within 11,000 centuries of 2000 it
 // settles in at most 400: each step leaves less than 0.96 of the error there. Farther away the
-// growing term of the Sun's longitude may keep it from settling at all.
-constexpr int kMaxSunSteps = 1000;
+// growing term of the Sun's longitude makes it slow, and may keep it from settling at all.
+constexpr int kMaxSunSteps = 5000;
 
 constexpr int kRestartStep = 15;  // a search for a new moon starts again here, 26 days earlier
 constexpr int kLastStep = 30;     // and is given up behind this one

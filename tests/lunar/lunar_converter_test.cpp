@@ -201,7 +201,7 @@ TEST(LunarDateSpan, NoAnswerBeyondTheSpan) {
   }
 }
 
-// Four searches of at most 1000 steps and seven of at most 31.
+// Four searches of at most 5000 steps and seven of at most 31.
 TEST(LunarDateSpan, EveryIntIsAnsweredSoon) {
   constexpr int kInts[] = {kMin,   kMin + 1, -2000000000, -70202147, -5879488,  -1200000, -400000,
                            -5000,  -1,       0,           1,         13,        1582,     2024,

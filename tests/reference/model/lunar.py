@@ -19,7 +19,7 @@ QUARTER = 90.0
 PRINCIPAL_TERM = 30.0
 
 # Searches settle within a few steps; those of days millions of years away may never do.
-SEARCH_LIMIT = 1000
+SEARCH_LIMIT = 5000
 
 # 26 February to 27 March 2017 are the thirty days of the second month whatever the zone.
 CORRECTED_DATES = {(2017, 2, 26 + i): i + 1 for i in range(3)}
