@@ -188,6 +188,36 @@ TEST(SolarFestivals, WeekdayRulesHoldFrom1900To2099Only) {
   EXPECT_EQ(Festival(eLanguageChs, kMin, 10, 1), eFestivalSolarNationalDayChs);
 }
 
+TEST(SolarFestivals, NoWeekdayRuleHoldsIn2100) {
+  const struct {
+    ELanguage language;
+    EFestivalSolar code;
+  } rules[] = {
+      {eLanguageChs, eFestivalSolarMothersDay},
+      {eLanguageChs, eFestivalSolarFathersDay},
+      {eLanguageUsa, eFestivalSolarMartinLutherKingDay},
+      {eLanguageUsa, eFestivalSolarChildrensDay},
+      {eLanguageUsa, eFestivalSolarLaborDayUsa},
+      {eLanguageCht, eFestivalSolarMothersDay},
+      {eLanguageJpn, eFestivalSolarComingOfAgeDay},
+      {eLanguageJpn, eFestivalSolarMarineDay},
+      {eLanguageJpn, eFestivalSolarRespectForTheAgedDay},
+      {eLanguageJpn, eFestivalSolarSportsDay},
+      {eLanguageTha, eFestivalSolarChildrensDay},
+      {0, eFestivalSolarThanksgiving},
+  };
+  for (const auto& rule : rules) {
+    int in2099 = 0;
+    for (int month = 1; month <= 12; ++month) {
+      for (int day = 1; day <= 31; ++day) {
+        in2099 += Festival(rule.language, 2099, month, day) == rule.code ? 1 : 0;
+        EXPECT_NE(Festival(rule.language, 2100, month, day), rule.code) << month << '-' << day;
+      }
+    }
+    EXPECT_EQ(in2099, 1) << rule.code;
+  }
+}
+
 TEST(SolarFestivals, TheDayOfTheWeekIsNotRead) {
   const CCalendarFestival festival(nullptr);
   EXPECT_EQ(festival.GetFestivalBySolar(0, {2023, 11, 23, 4}),

@@ -65,6 +65,15 @@ TEST_F(AnnotationMemo, TheDayOfTheWeekIsNotPartOfTheKey) {
   engine.Check24Sekki({2024, 3, 20, 0});
   EXPECT_EQ(engine.m_map24SekkiCache.Size(), 1U);
   EXPECT_EQ(*engine.m_map24SekkiCache.Find(0, {2024, 3, 20, 1}), eSekkiSpringEquinox);
+  engine.ConverterLunar({2024, 2, 10, 5});
+  engine.ConverterLunar({2024, 2, 10, 0});
+  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 1U);
+  engine.CheckFestivalSolar(eLanguageUsa, {2024, 2, 10, 5});
+  engine.CheckFestivalSolar(eLanguageUsa, {2024, 2, 10, 0});
+  EXPECT_EQ(engine.m_mapFestivalSolarCache.Size(), 1U);
+  engine.CheckFestivalLunar(eLanguageUsa, {2024, 2, 10, 5});
+  engine.CheckFestivalLunar(eLanguageUsa, {2024, 2, 10, 0});
+  EXPECT_EQ(engine.m_mapFestivalLunarCache.Size(), 1U);
 }
 
 TEST_F(AnnotationMemo, KeepsAFestivalForEachLanguage) {
@@ -89,6 +98,7 @@ TEST_F(AnnotationMemo, KeysOfUnusualDates) {
   engine.ConverterLunar({-1, 1, 1, 0});
   EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {987, 3, 5, 0}), nullptr);
   EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {-1, 1, 1, 0}), nullptr);
+  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 2U);
 }
 
 TEST_F(AnnotationMemo, KeepsEveryInt) {

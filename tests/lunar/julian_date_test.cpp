@@ -63,6 +63,14 @@ TEST(DayCount, TakesAPartThatDoesNotFitAsTheLeastInt) {
 }
 
 TEST(DateOfDayCount, GivesTheTimeOfDayInWholeUnits) {
+  const tagSolarKyurekiYMDT midnight = DateOfCount(2451544.0);
+  EXPECT_EQ(midnight.year, 2000);
+  EXPECT_EQ(midnight.month, 1);
+  EXPECT_EQ(midnight.day, 1);
+  EXPECT_EQ(midnight.hour, 0);
+  EXPECT_EQ(midnight.minute, 0);
+  EXPECT_EQ(midnight.second, 0);
+
   const tagSolarKyurekiYMDT noon = DateOfCount(2451544.5);
   EXPECT_EQ(noon.hour, 12);
   EXPECT_EQ(noon.minute, 0);
@@ -85,6 +93,9 @@ TEST(DateOfDayCount, LimitsFebruaryIn2037And2041) {
   ExpectDate(DayCount(2024, 2, 29), 2024, 2, 29);
   ExpectDate(DayCount(2000, 2, 29), 2000, 2, 29);
 }
+
+// A century year counts as a leap year there: the limit is 29, not 28.
+TEST(DateOfDayCount, LimitsFebruaryOfACenturyYearTo29) { ExpectDate(-68571, -4900, 2, 29); }
 
 TEST(DateOfDayCount, DoesNotMeetTheLimitIn2100And2101) {
   ExpectDate(DayCount(2100, 2, 28), 2100, 2, 28);
