@@ -21,10 +21,10 @@ constexpr std::size_t kPrefixes = 8;
 void Replay(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
   const std::vector<char> text(std::istreambuf_iterator<char>(file), {});
-  const std::vector<std::uint8_t> bytes(text.begin(), text.end());
+  const auto* const bytes = reinterpret_cast<const std::uint8_t*>(text.data());
   std::fprintf(stderr, "%s\n", path.c_str());  // the last line tells which input broke
   for (std::size_t part = 0; part <= kPrefixes; ++part) {
-    LLVMFuzzerTestOneInput(bytes.data(), bytes.size() * part / kPrefixes);
+    LLVMFuzzerTestOneInput(bytes, text.size() * part / kPrefixes);
   }
 }
 

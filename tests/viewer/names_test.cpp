@@ -42,8 +42,7 @@ std::vector<DayName> allNames() {
 }
 
 bool isAscii(const std::string& text) {
-  return std::all_of(text.begin(), text.end(),
-                     [](unsigned char c) { return c >= ' ' && c < 0x7f; });
+  return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
 }
 
 class Names : public testing::Test {
