@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstddef>
 #include <cstring>
 #include <limits>
 
@@ -26,10 +27,11 @@ int TermOfDate(int year, int month, int day, int zone) {
   return CCalendarLunarSolarTerms().Check24Sekki(year, month, day);
 }
 
-void ExpectTerm(const Terms& terms, int sekki, int month, int day, int hour) {
-  EXPECT_EQ(terms[sekki].nMonth, month) << sekki;
-  EXPECT_EQ(terms[sekki].nDay, day) << sekki;
-  EXPECT_EQ(terms[sekki].nHour, hour) << sekki;
+void ExpectTerm(const Terms& terms, ESolarKyureki24 sekki, int month, int day, int hour) {
+  const tag24SekkiResult& term = terms[static_cast<std::size_t>(sekki)];
+  EXPECT_EQ(term.nMonth, month) << sekki;
+  EXPECT_EQ(term.nDay, day) << sekki;
+  EXPECT_EQ(term.nHour, hour) << sekki;
 }
 
 TEST(SekkiOfYear, Year2024AtZone8) {
@@ -61,10 +63,11 @@ TEST(SekkiOfYear, TheZoneMovesADay) {
 TEST(SekkiOfYear, FillsEveryField) {
   const Terms terms = TermsOfYear(2001, 9);
   for (int i = 0; i < kSekkiCount; ++i) {
-    EXPECT_EQ(terms[i].dSunLongitude, (285 + 15 * i) % 360);
-    EXPECT_EQ(terms[i].nYear, 2001);
-    EXPECT_EQ(terms[i].nSekki, i);
-    EXPECT_EQ(terms[i].nMonth, i / 2 + 1);
+    const tag24SekkiResult& term = terms[static_cast<std::size_t>(i)];
+    EXPECT_EQ(term.dSunLongitude, (285 + 15 * i) % 360);
+    EXPECT_EQ(term.nYear, 2001);
+    EXPECT_EQ(term.nSekki, i);
+    EXPECT_EQ(term.nMonth, i / 2 + 1);
   }
 }
 
