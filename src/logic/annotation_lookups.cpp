@@ -14,18 +14,20 @@ CCalendarLunarDate CCalendarLogic::ConverterLunar(CCalendarSolarDate date) {
 
 ESolarKyureki24 CCalendarLogic::Check24Sekki(CCalendarSolarDate date) {
   return m_map24SekkiCache.GetOrCompute(kNoLanguage, date, [&] {
-    return m_lunarSolarTerms.Check24Sekki(date.year, date.month, date.day);
+    return static_cast<KeptCode>(m_lunarSolarTerms.Check24Sekki(date.year, date.month, date.day));
   });
 }
 
 EFestivalSolar CCalendarLogic::CheckFestivalSolar(ELanguage language, CCalendarSolarDate date) {
-  return m_mapFestivalSolarCache.GetOrCompute(
-      language, date, [&] { return m_festival.GetFestivalBySolar(language, date); });
+  return m_mapFestivalSolarCache.GetOrCompute(language, date, [&] {
+    return static_cast<KeptCode>(m_festival.GetFestivalBySolar(language, date));
+  });
 }
 
 EFestivalLunar CCalendarLogic::CheckFestivalLunar(ELanguage language, CCalendarSolarDate date) {
-  return m_mapFestivalLunarCache.GetOrCompute(
-      language, date, [&] { return m_festival.GetFestivalByLunar(language, date); });
+  return m_mapFestivalLunarCache.GetOrCompute(language, date, [&] {
+    return static_cast<KeptCode>(m_festival.GetFestivalByLunar(language, date));
+  });
 }
 
 CCalendarLunarDate LunarDateFromOwner(CCalendarLogic& owner, CCalendarSolarDate date) {

@@ -4,6 +4,8 @@
 
 #include <almara/almara_types.h>
 
+#include <cstdint>
+
 #include "board/calendar_logic_build.h"
 #include "date/date_memo.h"
 #include "festival/calendar_festival.h"
@@ -78,11 +80,14 @@ class CCalendarLogic : public CCalendarLogicBuild {
   EFestivalLunar CheckFestivalLunar(ELanguage language, CCalendarSolarDate date);
 
  protected:
+  // Every code fits 16 bits, and kept in these more of them stay near the processor.
+  using KeptCode = std::int16_t;
+
   // Answers by date, those of the festivals by language and date.
   DateMemo<CCalendarLunarDate> m_mapLunarDateCache;
-  DateMemo<ESolarKyureki24> m_map24SekkiCache;
-  DateMemo<EFestivalSolar> m_mapFestivalSolarCache;
-  DateMemo<EFestivalLunar> m_mapFestivalLunarCache;
+  DateMemo<KeptCode> m_map24SekkiCache;
+  DateMemo<KeptCode> m_mapFestivalSolarCache;
+  DateMemo<KeptCode> m_mapFestivalLunarCache;
 
   CCalendarFestival m_festival;  // asks this object for lunar dates
   CCalendarLunarSolarTerms m_lunarSolarTerms;
