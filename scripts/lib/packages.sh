@@ -14,7 +14,7 @@ declare -A PACKAGES=(
   [mutation]="binutils git python3 util-linux"
   [coverage]="gcovr"
   [docs]="doxygen"
-  [packages]="debhelper dpkg-dev fakeroot lintian debootstrap git"
+  [packages]="build-essential debhelper dpkg-dev fakeroot lintian debootstrap git"
   [bench]="libbenchmark-dev libicu-dev libswe-dev python3 binutils util-linux"
   [analysis]="clang clang-tidy clang-format shellcheck python3 git"
 )
