@@ -8,7 +8,7 @@
 #include <bitset>
 #include <cstddef>
 #include <cstdint>
-#include <numeric>
+#include <memory>
 #include <unordered_map>
 
 // The answers given so far about dates, kept for good. A question is a variant (a language, a rule)
@@ -39,18 +39,22 @@ class DateMemo {
 
   // The kept answer, null if there is none.
   const Answer* Find(std::int32_t variant, const CCalendarSolarDate& date) const {
-    const auto page = m_pages.find(KeyOf(variant, date));
-    return page != m_pages.end() && page->second.Keeps(SlotOf(date))
-               ? &page->second.answers[SlotOf(date)]
-               : nullptr;
+    const PageKey key = KeyOf(variant, date);
+    const auto year = m_years.find(YearOf(key));
+    const Page* const page = year != m_years.end() ? year->second[MonthOf(key)].get() : nullptr;
+    const std::size_t slot = SlotOf(date);
+    return page != nullptr && page->Keeps(slot) ? &page->answers[slot] : nullptr;
   }
 
   // Number of answers kept.
   std::size_t Size() const {
-    return std::accumulate(m_pages.begin(), m_pages.end(), std::size_t{0},
-                           [](std::size_t sum, const auto& page) {
-                             return sum + std::bitset<kDaysOfPage>(page.second.kept).count();
-                           });
+    std::size_t size = 0;
+    for (const auto& [key, pages] : m_years) {
+      for (const auto& page : pages) {
+        size += page != nullptr ? std::bitset<kDaysOfPage>(page->kept).count() : 0;
+      }
+    }
+    return size;
   }
 
  private:
@@ -66,9 +70,12 @@ class DateMemo {
   // Variant, year, month, and the part of the day that does not select the answer within the page.
   using PageKey = std::array<std::int32_t, 4>;
 
-  // A page is found in a few reads of memory however many there are, which a tree's depth would
-  // multiply.
-  struct HashOfPage {
+  // The pages of the months of a year. Years are few enough for their table to stay near the
+  // processor, so that an answer among a million waits for memory hardly more than once.
+  static constexpr std::uint32_t kMonthsOfYear = 16;
+  using Year = std::array<std::unique_ptr<Page>, kMonthsOfYear>;
+
+  struct HashOfKey {
     std::size_t operator()(const PageKey& key) const {
       std::uint64_t hash = 0;
       for (const std::int32_t part : key) {
@@ -88,15 +95,29 @@ class DateMemo {
     return static_cast<std::uint32_t>(date.day) % kDaysOfPage;
   }
 
+  // The key with the part of the month alone that does not select the page within the year.
+  static PageKey YearOf(PageKey key) {
+    key[2] = static_cast<std::int32_t>(static_cast<std::uint32_t>(key[2]) / kMonthsOfYear);
+    return key;
+  }
+
+  static std::size_t MonthOf(const PageKey& key) {
+    return static_cast<std::uint32_t>(key[2]) % kMonthsOfYear;
+  }
+
   Page& PageOf(const PageKey& key) {
     if (m_lastPage == nullptr || key != m_lastKey) {
-      m_lastPage = &m_pages[key];
+      std::unique_ptr<Page>& page = m_years[YearOf(key)][MonthOf(key)];
+      if (page == nullptr) {
+        page = std::make_unique<Page>();
+      }
+      m_lastPage = page.get();
       m_lastKey = key;
     }
     return *m_lastPage;
   }
 
-  std::unordered_map<PageKey, Page, HashOfPage> m_pages;
+  std::unordered_map<PageKey, Year, HashOfKey> m_years;
   PageKey m_lastKey{};
   Page* m_lastPage = nullptr;  // of m_lastKey
 };
