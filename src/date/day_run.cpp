@@ -28,7 +28,6 @@ DayRun::DayRun(int year, int month, int day) {
 
 bool DayRun::DateAt(int offset, CCalendarSolarDate& date) const {
   const std::time_t instant = m_midnight + WrapMultiply(offset, kSecondsPerDay);
-  // NOLINTNEXTLINE(concurrency-mt-unsafe): one thread drives the engine.
   std::tm local{};
   if (localtime_r(&instant, &local) == nullptr) {
     return false;
