@@ -67,7 +67,7 @@ class InstalledTree(unittest.TestCase):
 
     def configure(self, language, prefix):
         build = tempfile.mkdtemp(dir=self.folder)
-        result = run(CMAKE, "-S", ROOT / "examples" / language, "-B", build,
+        result = run(CMAKE, "-S", ROOT / "hosts" / language, "-B", build,
                      f"-DCMAKE_MAKE_PROGRAM={os.environ['CMAKE_MAKE_PROGRAM']}",
                      # Not a library that happens to be installed on this machine.
                      "-DCMAKE_FIND_USE_CMAKE_SYSTEM_PATH=OFF",
@@ -134,7 +134,7 @@ class InstalledTree(unittest.TestCase):
         self.assertEqual(files_of(prefix), files_of(self.first))
 
     def test_documented_pkg_config_line(self):
-        shutil.copy(ROOT / "examples/c/month.c", self.folder)
+        shutil.copy(ROOT / "hosts/c/month.c", self.folder)
         self.succeed("sh", "-c", f"cd {self.folder} && {documented('pkg-config')[0]}",
                      PKG_CONFIG_PATH=str(self.moved / LIBDIR / "pkgconfig"))
         text = self.succeed(self.folder / "month", LD_LIBRARY_PATH=str(self.moved / LIBDIR))

@@ -44,7 +44,7 @@ def snippet(origin):
 
 class EmbeddingTest(unittest.TestCase):
     def test_snippets_are_in_their_files(self):
-        files = [(origin, text) for origin, _, text in snippets() if origin.startswith("examples/")]
+        files = [(origin, text) for origin, _, text in snippets() if origin.startswith("hosts/")]
         self.assertGreaterEqual(len(files), 2)
         for origin, text in files:
             self.assertIn(text, (ROOT / origin).read_text())
@@ -58,7 +58,7 @@ class EmbeddingTest(unittest.TestCase):
 
     def test_python(self):
         with tempfile.TemporaryDirectory() as folder:
-            shutil.copy(ROOT / "examples/python/almara.py", folder)
+            shutil.copy(ROOT / "hosts/python/almara.py", folder)
             Path(folder, "program.py").write_text(snippet("command: python"))
             text = output_of(sys.executable, "-B", "program.py", folder=folder)
         self.assertRegex(text, r"(?m)^2024 1 1 1-5-7-1-")
@@ -89,7 +89,7 @@ class ReadmeTest(unittest.TestCase):
         self.assertEqual([len(line) for line in text.splitlines()], [28] * 5)
 
     def test_cmake(self):
-        example = (ROOT / "examples/c/CMakeLists.txt").read_text().splitlines()
+        example = (ROOT / "hosts/c/CMakeLists.txt").read_text().splitlines()
         for line in self.snippet("cmake").splitlines():
             self.assertIn(line, example)
 
@@ -116,7 +116,7 @@ class ManualTest(unittest.TestCase):
     def test_the_example_is_the_one_that_is_built(self):
         example = re.search(r"^\.Bd -literal -offset indent\n(.*?)^\.Ed$", manual("almara.3"),
                             re.DOTALL | re.MULTILINE)[1].replace("\\e", "\\")
-        source = (ROOT / "examples/c/month.c").read_text()
+        source = (ROOT / "hosts/c/month.c").read_text()
         self.assertEqual(example, source[source.index("#include"):])
 
     @unittest.skipUnless(VIEWER, "this build leaves the viewer out")

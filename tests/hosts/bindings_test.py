@@ -15,7 +15,7 @@ TWO_SCREENS = 130
 
 
 def text_of(example):
-    return (ROOT / "examples" / example).read_text()
+    return (ROOT / "hosts" / example).read_text()
 
 
 class BindingsTest(unittest.TestCase):
@@ -41,7 +41,7 @@ class BindingsTest(unittest.TestCase):
             self.assertEqual(int(line[1]), HEADER.constants[expected[name]], name)
 
     def test_each_file_fits_on_two_screens(self):
-        for path in (ROOT / "examples").rglob("*"):
+        for path in (ROOT / "hosts").rglob("*"):
             if path.suffix in (".c", ".cpp", ".py", ".js") and "node_modules" not in path.parts:
                 self.assertLessEqual(len(path.read_text().splitlines()), TWO_SCREENS, path.name)
 
