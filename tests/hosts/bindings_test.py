@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""The bindings that the examples bring along declare what the header declares, all of it."""
+"""The bindings that the hosts bring along declare what the header declares, all of it."""
 import re
 import sys
 import unittest

@@ -90,7 +90,7 @@ class InstalledTree(unittest.TestCase):
         self.assertEqual(flags.returncode, 0, flags.stdout)
         compiler = os.environ["CC"] if language == "c" else os.environ["CXX"]
         program = self.folder / f"{language}-board"
-        self.succeed(compiler, ROOT / f"examples/{language}/board.{language}", "-o", program,
+        self.succeed(compiler, ROOT / f"hosts/{language}/board.{language}", "-o", program,
                      *flags.stdout.split())
         self.assert_is_board(program, LD_LIBRARY_PATH=str(prefix / LIBDIR))
 
