@@ -5,22 +5,21 @@
  * The library holds one engine. It is created, with the default options and an empty board, when
  * the library is loaded, and lives until the process ends; there is nothing to open or to close.
  *
- * Calling order
+ * A host's life with it:
  *
- *   1. Load the library, or link with it.
- *   2. Optionally apply stored options with the setters. A setter never rebuilds the board.
- *   3. InitCalendarLogicDt(language) fixes the time zone of the lunar dates and solar terms and
- *      builds the board around today.
- *   4. Read the board: GetContentRows() and GetContentColumns(), GetContentItem(row, column) for
- *      every cell, GetCalendarWeekByColumns(column) for the headings, GetWeekNumberCount() and
- *      GetWeekNumberItemWithIndex(index) for the week-number column, GetContentDate(), GetToday()
- *      and IsTodayInBoard() for the title and the control that returns to today.
- *   5. Annotate the shown dates: ConverterLunarWithDate(), Check24SekkiWithDate(),
- *      CheckFestivalSolarWithLang() and CheckFestivalLunarWithLang(). Answers are kept for good, so
- *      ask after step 3, when the zone is known.
- *   6. Navigate with GotoPreviousPage(), GotoNextPage(), GotoToday(), GotoSpecifiedDate() or
- *      GotoTodayOffset(), then read the board again.
- *   7. After changing options call Build(), which shows today's board under the new options.
+ *   - Load the library, or link with it. Options may be set at any time, also before the first
+ *     board; a setter never rebuilds the board, Build() does.
+ *   - InitCalendarLogicDt(language) once at the start: it fixes the time zone of lunar dates and
+ *     solar terms and builds the board around today.
+ *   - Draw the board: GetContentItem() for each of GetContentRows() x GetContentColumns() cells,
+ *     GetCalendarWeekByColumns() for the headings, GetWeekNumberItemWithIndex() for each of
+ *     GetWeekNumberCount() boxes of the week-number column. GetContentDate(), GetToday() and
+ *     IsTodayInBoard() serve the title and a button that returns to today.
+ *   - Annotate the dates on it: ConverterLunarWithDate(), Check24SekkiWithDate(),
+ *     CheckFestivalSolarWithLang(), CheckFestivalLunarWithLang(). Never ask before
+ *     InitCalendarLogicDt(): answers are kept for good, and the zone is not known yet.
+ *   - Move: GotoPreviousPage(), GotoNextPage(), GotoToday(), GotoSpecifiedDate(),
+ *     GotoTodayOffset(). Each builds another board to draw.
  *
  * Threads: drive the engine from one thread, usually the one that draws the window. Two board
  * builds never run at the same time, but nothing else is locked.
@@ -34,7 +33,7 @@
  * first build.
  *
  * Memory: a board takes about 300 bytes a row, and a list entry of 32 bytes for each listed day.
- * Rows are not limited, so a host must not ask for millions of them. The answers of step 5 are kept
+ * Rows are not limited, so a host must not ask for millions of them. Answers about dates are kept
  * without a limit, one for each distinct date and language asked.
  *
  * Output: every board build writes the board as text to the standard output, and GotoTodayOffset()
@@ -50,7 +49,7 @@
 #define ALMARA_VERSION_MAJOR 1        /**< changes with the SONAME */
 #define ALMARA_VERSION_MINOR 0        /**< grows when functions or constants are added */
 #define ALMARA_VERSION_PATCH 0        /**< grows with any other release */
-#define ALMARA_VERSION_STRING "1.0.0" /**< the three numbers, parted by dots */
+#define ALMARA_VERSION_STRING "1.0.0" /**< MAJOR.MINOR.PATCH */
 
 /** Marks what the library exports. */
 #if defined(__GNUC__)
@@ -94,9 +93,9 @@ ALMARA_EXPORT CCalendarSolarDate CreateSolarDate(int32_t year, int32_t month, in
 ALMARA_EXPORT void InitCalendarLogicDt(int32_t language);
 
 /**
- * Builds today's board under the options now in force. Where the board's date already is today, a
- * page direction left by GotoPreviousPage(), GotoNextPage() or GotoSpecifiedDate() stays in force;
- * hosts rely on it.
+ * Builds today's board under the options now in force. If the board's date already is today, a
+ * page direction left by GotoPreviousPage(), GotoNextPage() or GotoSpecifiedDate() stays in force,
+ * so that a page keeps its rows when an option changes.
  */
 ALMARA_EXPORT void Build(void);
 
@@ -111,26 +110,27 @@ ALMARA_EXPORT void GotoToday(void);
  *
  * Outside the month arrangements this sets the page direction, even at the start of 1900. It stays
  * in force until another navigation sets or clears it, also when the arrangement is changed. Under
- * a page direction arrangement 2 has no rows, and arrangement 3 may begin behind the 1st of the
- * month. GotoToday() and InitCalendarLogicDt() clear it, and so does GotoTodayOffset() in
- * arrangement 2.
+ * a page direction arrangement 2 has no rows, and arrangement 3 may begin after the 1st of the
+ * month. It is cleared by GotoToday(), by InitCalendarLogicDt(), by GotoSpecifiedDate() with a date
+ * on the board (outside arrangement 3), and by GotoTodayOffset() (outside arrangement 3).
  */
 ALMARA_EXPORT void GotoPreviousPage(void);
 
 /**
  * Pages forward: to the 1st of the month after the board's date, to a strip that begins with the
- * day after the last one shown, or to rolling weeks whose first row is that day's week; the days of
- * that week before it are kept back under month intervals and shown without. At the end of 2099 the
+ * day after the last one shown, or to rolling weeks whose first row is that day's week; earlier
+ * days of that week are blank if month intervals are on, otherwise shown. At the end of 2099 the
  * dates of the board stay as they are. Otherwise as GotoPreviousPage().
  */
 ALMARA_EXPORT void GotoNextPage(void);
 
 /**
  * Builds the board of a date. Outside the whole-month arrangement, a date before the first day
- * shown or behind the last one is gone to as if paged to, page direction included: in the day strip
- * it becomes the last or the first day, in rolling weeks its week the last or the first row, and
- * arrangement 2 has no rows then. The first call on an empty board counts as one behind the last
- * day. A date within the board keeps the page direction.
+ * shown or after the last one is reached as if by paging, and sets the page direction: in the day
+ * strip it becomes the last or the first day, in rolling weeks its week the last or the first row,
+ * and arrangement 2 then has no rows. On an empty board every date counts as one after the last
+ * day. A date within the board clears the page direction. The whole-month arrangement leaves the
+ * page direction as it is.
  *
  * @param year 1900 to 2099
  * @param month 1 to 12
@@ -148,9 +148,9 @@ ALMARA_EXPORT void GotoSpecifiedDate(int32_t year, int32_t month, int32_t day);
  *
  * @param offset in the whole-month arrangement, months from this month (negative: before it), on
  *     today's day of the month or the month's last day if it is shorter. In every other
- *     arrangement, pages of GetMaxRow() weeks from today. 7 * rows * offset days and their seconds
- *     are formed in 32-bit wrapping arithmetic, so more than 24855 days do not lead where a reader
- *     would expect.
+ *     arrangement, pages of GetMaxRow() weeks from today. 7 * rows * offset days, and these
+ *     in seconds, are formed in 32-bit wrapping arithmetic: more than 24855 days away the target is
+ *     some other date.
  *
  * A target outside 1900 to 2099 leaves the dates of the board as they were. Writes "build-logic
  * Y-M-D" (whole month: "Y-M-D", the day -1 outside 1900 to 2099) to the standard output, without a
@@ -223,10 +223,10 @@ ALMARA_EXPORT bool IsTodayInBoard(void);
    - Answers are kept for good. The first answer for a date (of a festival: for a language and date)
      is what every later call gets, also after InitCalendarLogicDt() has changed the zone.
    - A date asked for the first time is worked out, and most of that work serves the dates around
-   it; a date asked again is only looked up. */
+     it; a date asked again is only looked up. */
 
 /**
- * The lunar date of a Gregorian date: the Chinese lunisolar calendar reckoned in the zone in force.
+ * The lunar date of a Gregorian date: the Chinese lunisolar calendar in the zone now in force.
  *
  * @param date meant for 1900 to 2099. Any other year is converted by the same series, which grow
  *     worse with the distance: some ten thousand years away the day may lie outside its range, from
@@ -275,8 +275,8 @@ ALMARA_EXPORT ESolarKyureki24 Check24SekkiWithDate(CCalendarSolarDate date);
  *
  * - the first date of a year may not be Easter Sunday itself, or 0 is kept for it for good. A host
  *   that asks for whole months in order finds it, since 1 March comes before;
- * - a date that is kept already is not worked out: asking for 2024-01-01, 2025-01-01, 2024-01-01
- *   leaves 2025 the last year.
+ * - an answer that is kept is not worked out again: after 2024-01-01, 2025-01-01, 2024-01-01 the
+ *   last year worked out is 2025.
  *
  * Good Friday is found at once, except in the years 1 to 31, where it may be another year's. The
  * first eLanguageUsa date of a year, if it has month 0 and day 0, gives 4003, and before year 1 the
@@ -352,22 +352,24 @@ ALMARA_EXPORT bool GetHideBreakDay(void);
 ALMARA_EXPORT void SetHideBreakDay(bool hide);
 
 /**
- * The hide-break-day flag, the same as GetHideBreakDay(). Hosts rely on this pairing; the flag that
- * SetShowMonthInterval() writes cannot be read back but through GetConfigKey().
+ * The hide-break-day flag, the same as GetHideBreakDay(), not what SetShowMonthInterval() wrote:
+ * that flag can be read back through GetConfigKey() only.
  */
 ALMARA_EXPORT bool GetShowMonthInterval(void);
 
 /**
- * Sets whether a band of seven cells is inserted before the first day of a month, and the days that
- * only fill the first row are kept back: those before the board's month or, behind a page forward
- * in arrangement 1, before the board's date. True at first.
+ * Sets whether a month interval of seven cells is inserted before the first day of a month, and
+ * days that only fill the first row are left blank: days before the board's month and, after paging
+ * forward in arrangement 1, days before the board's date. True by default.
  */
 ALMARA_EXPORT void SetShowMonthInterval(bool show);
 
 /** Whether break-day columns are shown; true by default. */
 ALMARA_EXPORT bool GetShowBreakDayOfWeek(void);
 
-/** Sets whether break-day columns, and rows left without content, are shown. */
+/** Sets whether break-day columns, and rows left without content, are shown. Columns are hidden by
+ * their place: the start day of week heads the first one. A day strip begins on any weekday, so
+ * there the columns hidden are not those of the break days; do not hide break days in a strip. */
 ALMARA_EXPORT void SetShowBreakDayOfWeek(bool show);
 
 /** The rule for week numbers, ::EWeekNumberCalc as it was set; 1 (ISO 8601) by default. */
@@ -376,14 +378,14 @@ ALMARA_EXPORT EWeekNumberCalc GetWeekNumberCalcType(void);
 /**
  * Sets the rule for week numbers. Not checked: any value but 1 and 2 counts as 0.
  *
- * All rules but 1 count days by the seconds of local time since 1 January. Where the clocks have
- * gone forward since then, every date is a day short until they go back: in Berlin, 1 April 2024, a
+ * All rules but 1 count days by the seconds of local time since 1 January. From the day the clocks
+ * go forward until they go back, dates come out one day short: in Berlin, 1 April 2024, a
  * Monday, is still in week 13. The first answer for a date is kept for good.
  */
 ALMARA_EXPORT void SetWeekNumberCalcType(EWeekNumberCalc type);
 
 /**
- * Marks a day of the week as break day or takes the mark away. At first Saturday and Sunday are
+ * Marks a day of the week as break day or takes the mark away. By default Saturday and Sunday are
  * marked.
  *
  * @param dayOfWeek ::ECalendarWeek; a value outside 0 to 6 changes nothing
@@ -396,7 +398,7 @@ ALMARA_EXPORT bool IsBreakDayOfWeek(int32_t dayOfWeek);
 
 /**
  * A text that holds every option, so that it changes whenever one does: two equal keys mean equal
- * options. "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1" at first; the numbers are the arrangement, rows,
+ * options. "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1" by default; the numbers are the arrangement, rows,
  * columns of the strip, passed weeks, start day of week, start week number, hide-break-day flag,
  * rule for week numbers, month intervals, in parentheses the break days from Monday to Sunday, and
  * whether break days are shown.

@@ -57,15 +57,15 @@ typedef int32_t ECalendarItem;
 /** Values of ::ECalendarItem. */
 enum {
   eCalendarItemEmpty = 1,         /**< grid position beyond the last date; its date is 0, 0, 0 */
-  eCalendarItemBlank = 2,         /**< filler of a month interval (date 0, 0, 0), or a day that
-                                       only fills the first row and is kept back (real date, day of
-                                       week 0) */
+  eCalendarItemBlank = 2,         /**< filler of a month interval (date 0, 0, 0), or a
+                                       kept-back day, which only fills the first row (real date,
+                                       day of week 0) */
   eCalendarItemDay = 3,           /**< ordinary day */
   eCalendarItemToday = 4,         /**< today, not a break day */
   eCalendarItemBreakDay = 5,      /**< break day, not today */
   eCalendarItemTodayBreakDay = 6, /**< today, on a break day */
   eCalendarItemMonthTitle = 7     /**< first cell of a month interval: year 0, the month that begins
-                                       behind the interval, day 1 */
+                                       after the interval, day 1 */
 };
 
 /** One cell of the board, as GetContentItem() returns it. 32 bytes. */
@@ -80,11 +80,11 @@ typedef struct tagCalendarCell {
   int32_t type;       /**< ::ECalendarItem */
 } tagCalendarCell;
 
-/** A run of visible rows that share one box in the week-number column. 12 bytes. */
+/** A span: consecutive visible rows that share one box in the week-number column. 12 bytes. */
 typedef struct tagWeekNumberSpan {
-  int32_t weekNumber;       /**< week number to show, 0 when the run has none */
-  int32_t secondWeekNumber; /**< a second week number met in the run, or 0 */
-  int32_t rows;             /**< visible rows that the run covers, at least 1 */
+  int32_t weekNumber;       /**< week number to show, 0 when the span has none */
+  int32_t secondWeekNumber; /**< a second week number met in the span, or 0 */
+  int32_t rows;             /**< visible rows of the span, at least 1 */
 } tagWeekNumberSpan;
 
 /** Arrangement of the board. A value outside 1 to 4 gives an empty board. */
