@@ -4,13 +4,9 @@
 
 #include <almara/almara_types.h>
 
+#include <cstddef>
+
 #include "festival/solar_festival_rules.h"
-
-class CCalendarLogic;
-
-// The owner's lunar date of a Gregorian one. The owner's room defines it, so that this one depends
-// on none but the date services.
-CCalendarLunarDate LunarDateFromOwner(CCalendarLogic& owner, CCalendarSolarDate date);
 
 // The festival of a Gregorian date in a region. Every int is accepted as a date's field and as a
 // language; the day of the week is not read. The rules stand in solar_festival_rules.cpp and
@@ -18,68 +14,78 @@ CCalendarLunarDate LunarDateFromOwner(CCalendarLogic& owner, CCalendarSolarDate 
 // the answers share.
 class CCalendarFestival {
  public:
-  // The owner supplies the lunar dates and outlives this object; without one (null) there are no
-  // lunar festivals.
-  explicit CCalendarFestival(CCalendarLogic* logic) : m_pCalendarLogic(logic) {}
+  // Without an owner there are no lunar festivals.
+  explicit CCalendarFestival(std::nullptr_t) {}
+
+  // The owner gives the lunar dates, by a member ConverterLunar(date), and outlives this object. It
+  // may be null.
+  template <typename Owner>
+  explicit CCalendarFestival(Owner* owner)
+      : m_owner(owner), m_lunarDateOf([](void* context, CCalendarSolarDate date) {
+          return static_cast<Owner*>(context)->ConverterLunar(date);
+        }) {}
 
   // The region's own festival, or else the one that holds in every region.
   EFestivalSolar GetFestivalBySolar(ELanguage language, CCalendarSolarDate date) const;
-  EFestivalSolar _GetCommonFestivalBySolar(CCalendarSolarDate date) const;
 
-  // The festival of the lunar date. The rules see the lunar date alone, never a leap month's.
+  // The festival of the lunar date. The owner is asked for the lunar date of the day, and for that
+  // of the next day only where it decides.
   EFestivalLunar GetFestivalByLunar(ELanguage language, CCalendarSolarDate date) const;
 
-  // The lunar date of a day, all zeroes without an owner.
+  // Interface that nothing in the library calls, kept for code written against this class: the
+  // lunar date of a day (all zeroes without an owner), the festivals of every region, and those of
+  // one region alone.
   CCalendarLunarDate _GetLunarDate(CCalendarSolarDate date) const;
 
-  // The festivals of one region alone.
+  EFestivalSolar _GetCommonFestivalBySolar(CCalendarSolarDate date) const {
+    return almara::CommonSolarFestival(date);
+  }
   EFestivalSolar _GetFestivalBySolarChs(CCalendarSolarDate date) const {
-    return RegionSolarFestival(eLanguageChs, date);
+    return almara::RegionSolarFestival(eLanguageChs, date);
   }
   EFestivalSolar _GetFestivalBySolarKor(CCalendarSolarDate date) const {
-    return RegionSolarFestival(eLanguageKor, date);
+    return almara::RegionSolarFestival(eLanguageKor, date);
   }
   EFestivalSolar _GetFestivalBySolarUsa(CCalendarSolarDate date) const {
-    return RegionSolarFestival(eLanguageUsa, date);
+    return almara::RegionSolarFestival(eLanguageUsa, date);
   }
   EFestivalSolar _GetFestivalBySolarCht(CCalendarSolarDate date) const {
-    return RegionSolarFestival(eLanguageCht, date);
+    return almara::RegionSolarFestival(eLanguageCht, date);
   }
   EFestivalSolar _GetFestivalBySolarRus(CCalendarSolarDate date) const {
-    return RegionSolarFestival(eLanguageRus, date);
+    return almara::RegionSolarFestival(eLanguageRus, date);
   }
   EFestivalSolar _GetFestivalBySolarDeu(CCalendarSolarDate date) const {
-    return RegionSolarFestival(eLanguageDeu, date);
+    return almara::RegionSolarFestival(eLanguageDeu, date);
   }
   EFestivalSolar _GetFestivalBySolarJpn(CCalendarSolarDate date) const {
-    return RegionSolarFestival(eLanguageJpn, date);
+    return almara::RegionSolarFestival(eLanguageJpn, date);
   }
   EFestivalSolar _GetFestivalBySolarEng(CCalendarSolarDate date) const {
-    return RegionSolarFestival(eLanguageEng, date);
+    return almara::RegionSolarFestival(eLanguageEng, date);
   }
   EFestivalSolar _GetFestivalBySolarVit(CCalendarSolarDate date) const {
-    return RegionSolarFestival(eLanguageVit, date);
+    return almara::RegionSolarFestival(eLanguageVit, date);
   }
   EFestivalSolar _GetFestivalBySolarTha(CCalendarSolarDate date) const {
-    return RegionSolarFestival(eLanguageTha, date);
+    return almara::RegionSolarFestival(eLanguageTha, date);
   }
   EFestivalLunar _GetFestivalByLunarChs(CCalendarSolarDate date) const {
-    return LunarFestivalOfRegion(eLanguageChs, date);
+    return GetFestivalByLunar(eLanguageChs, date);
   }
   EFestivalLunar _GetFestivalByLunarCht(CCalendarSolarDate date) const {
-    return LunarFestivalOfRegion(eLanguageCht, date);
+    return GetFestivalByLunar(eLanguageCht, date);
   }
   EFestivalLunar _GetFestivalByLunarKor(CCalendarSolarDate date) const {
-    return LunarFestivalOfRegion(eLanguageKor, date);
+    return GetFestivalByLunar(eLanguageKor, date);
   }
   EFestivalLunar _GetFestivalByLunarVit(CCalendarSolarDate date) const {
-    return LunarFestivalOfRegion(eLanguageVit, date);
+    return GetFestivalByLunar(eLanguageVit, date);
   }
 
  private:
-  EFestivalLunar LunarFestivalOfRegion(ELanguage language, CCalendarSolarDate date) const;
-
-  CCalendarLogic* m_pCalendarLogic;  // not owned
+  void* m_owner = nullptr;  // not owned
+  CCalendarLunarDate (*m_lunarDateOf)(void* owner, CCalendarSolarDate date) = nullptr;
 };
 
 #endif  // ALMARA_FESTIVAL_CALENDAR_FESTIVAL_H_

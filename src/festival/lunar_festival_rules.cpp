@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <iterator>
 
+namespace almara {
 namespace {
 
 // A festival of one region on a day of the lunar calendar.
@@ -76,3 +77,5 @@ EFestivalLunar RegionLunarFestival(ELanguage language, int lunarMonth, int lunar
 EFestivalLunar RegionMonthEndFestival(ELanguage language, int lunarMonth) {
   return Find(language, lunarMonth, kLastDay);
 }
+
+}  // namespace almara

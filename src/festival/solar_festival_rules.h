@@ -4,12 +4,17 @@
 
 #include <almara/almara_types.h>
 
+// The festivals of the Gregorian calendar.
+namespace almara {
+
 // The region's own festival of a day, eFestivalSolarNone if it has none. A region with rules for
-// Easter asks CCalendarFestivalFunction for both movable feasts on every call, whatever the date,
-// so that Easter Sunday is found from the second call of a year on.
+// Easter asks CCalendarFestivalFunction for both movable feasts on every call, whatever the date:
+// it depends on the questions before whether Easter Sunday is found, so each of them counts.
 EFestivalSolar RegionSolarFestival(ELanguage language, CCalendarSolarDate date);
 
 // The festival of a day that holds in every region, eFestivalSolarNone if there is none.
 EFestivalSolar CommonSolarFestival(CCalendarSolarDate date);
+
+}  // namespace almara
 
 #endif  // ALMARA_FESTIVAL_SOLAR_FESTIVAL_RULES_H_

@@ -29,7 +29,3 @@ EFestivalLunar CCalendarLogic::CheckFestivalLunar(ELanguage language, CCalendarS
     return static_cast<KeptCode>(m_festival.GetFestivalByLunar(language, date));
   });
 }
-
-CCalendarLunarDate LunarDateFromOwner(CCalendarLogic& owner, CCalendarSolarDate date) {
-  return owner.ConverterLunar(date);
-}
