@@ -14,8 +14,8 @@
 
 namespace {
 
-using almara_fuzz::Input;
-using almara_fuzz::WithinSeconds;
+using almara::test::Input;
+using almara::test::WithinSeconds;
 
 // Far above what a sanitized build needs for the dates of 1900 to 2099 (well below a millisecond)
 // and for the searches far away, which are the slowest.
@@ -74,13 +74,13 @@ void CheckLunarFestival(ELanguage language, const CCalendarSolarDate& date) {
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
   setenv("TZ", "UTC", 1);
-  almara_fuzz::SilenceStandardOutput();
+  almara::test::SilenceStandardOutput();
   return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   constexpr int kMaxQuestions = 64;
-  almara_fuzz::StartFreshEngine();
+  almara::test::StartFreshEngine();
   Input input(data, size);
   for (int i = 0; i < kMaxQuestions && !input.IsEmpty(); ++i) {
     const std::uint8_t choice = input.Byte();

@@ -23,7 +23,7 @@
 
 namespace {
 
-using almara_fuzz::Input;
+using almara::test::Input;
 
 constexpr int kColumns = 7;
 constexpr int kMaxVisibleRows = 50;
@@ -140,8 +140,8 @@ void Session::Call(Input& input) {
   } else if (choice < 250) {
     CallGetter(input);
   } else {
-    almara_fuzz::SetNow(static_cast<std::time_t>(input.Within(0, 50000) - 25567) * 86400 +
-                        input.Within(0, 65535));
+    almara::test::SetNow(static_cast<std::time_t>(input.Within(0, 50000) - 25567) * 86400 +
+                         input.Within(0, 65535));
     m_kindsAreCurrent = false;
   }
 }
@@ -177,20 +177,20 @@ void Session::CallSetter(Input& input) {
       const bool isSet = (flag & 1U) != 0;
       switch (input.Byte() % 4U) {
         case 0:
-          almara_fuzz::RawSetHideBreakDay(flag);
+          almara::test::RawSetHideBreakDay(flag);
           m_options.hideBreakDay = isSet;
           break;
         case 1:
-          almara_fuzz::RawSetShowMonthInterval(flag);
+          almara::test::RawSetShowMonthInterval(flag);
           m_options.monthInterval = isSet;
           break;
         case 2:
-          almara_fuzz::RawSetShowBreakDayOfWeek(flag);
+          almara::test::RawSetShowBreakDayOfWeek(flag);
           m_options.showBreakDay = isSet;
           break;
         default: {
           const std::int32_t day = input.About(-1, 7);
-          almara_fuzz::RawSetBreakDayOfWeek(day, flag);
+          almara::test::RawSetBreakDayOfWeek(day, flag);
           if (day >= 0 && day < kColumns) {
             m_options.breakDay[static_cast<std::size_t>(day)] = isSet;
           }
@@ -368,10 +368,10 @@ void Session::CheckCells() const {
       ALMARA_CHECK(cell.dayOfWeek == 0);
       continue;
     }
-    const almara_test::Civil date{cell.year, cell.month, cell.day};
+    const almara::test::Civil date{cell.year, cell.month, cell.day};
     ALMARA_CHECK(cell.month >= 1 && cell.month <= 12 && cell.day >= 1 &&
-                 cell.day <= almara_test::DaysOfMonth(cell.year, cell.month));
-    ALMARA_CHECK(cell.dayOfWeek == almara_test::DayOfWeek(date));
+                 cell.day <= almara::test::DaysOfMonth(cell.year, cell.month));
+    ALMARA_CHECK(cell.dayOfWeek == almara::test::DayOfWeek(date));
     anyToday = anyToday || IsToday(cell);
     if (m_kindsAreCurrent) {
       const bool isToday =
@@ -380,8 +380,8 @@ void Session::CheckCells() const {
       ALMARA_CHECK(IsBreakDay(cell) == IsBreakDayOfWeek(cell.dayOfWeek));
     }
     if (dayBefore != nullptr && dayBefore->row == cell.row) {
-      const almara_test::Civil before{dayBefore->year, dayBefore->month, dayBefore->day};
-      ALMARA_CHECK(almara_test::DayNumber(date) - almara_test::DayNumber(before) ==
+      const almara::test::Civil before{dayBefore->year, dayBefore->month, dayBefore->day};
+      ALMARA_CHECK(almara::test::DayNumber(date) - almara::test::DayNumber(before) ==
                    cell.column - dayBefore->column);
     }
     dayBefore = &cell;
@@ -428,14 +428,14 @@ void Session::CheckOutside() const {
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
   setenv("TZ", "UTC", 1);
-  almara_fuzz::SilenceStandardOutput();
+  almara::test::SilenceStandardOutput();
   return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   constexpr int kMaxCalls = 100;
-  almara_fuzz::StartFreshEngine();
-  almara_fuzz::SetNow(1710331200);  // 2024-03-13 12:00:00 UTC
+  almara::test::StartFreshEngine();
+  almara::test::SetNow(1710331200);  // 2024-03-13 12:00:00 UTC
   Input input(data, size);
   Session session;
   session.Check();

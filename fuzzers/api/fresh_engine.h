@@ -5,7 +5,7 @@
 #include "api/engine.h"
 #include "date/calendar_platform_api.h"
 
-namespace almara_fuzz {
+namespace almara::test {
 
 // Puts the process back to where it was when the library was loaded, so that an input does the same
 // whatever ran before it. Only the festival rules' memory of the last year stays.
@@ -15,6 +15,6 @@ inline void StartFreshEngine() {
   g_mac_timezone = kTimeZoneUnknown;
 }
 
-}  // namespace almara_fuzz
+}  // namespace almara::test
 
 #endif  // ALMARA_FUZZERS_API_FRESH_ENGINE_H_

@@ -10,7 +10,7 @@ void SetShowBreakDayOfWeek(std::uint8_t show);
 void SetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak);
 }
 
-namespace almara_fuzz {
+namespace almara::test {
 
 void RawSetHideBreakDay(std::uint8_t hide) { SetHideBreakDay(hide); }
 void RawSetShowMonthInterval(std::uint8_t show) { SetShowMonthInterval(show); }
@@ -19,4 +19,4 @@ void RawSetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak) {
   SetBreakDayOfWeek(dayOfWeek, isBreak);
 }
 
-}  // namespace almara_fuzz
+}  // namespace almara::test

@@ -6,13 +6,13 @@
 
 // The exported setters with a bool argument, called as a foreign bridge may call them: with any
 // byte in the place of the bool. Only its lowest bit counts.
-namespace almara_fuzz {
+namespace almara::test {
 
 void RawSetHideBreakDay(std::uint8_t hide);
 void RawSetShowMonthInterval(std::uint8_t show);
 void RawSetShowBreakDayOfWeek(std::uint8_t show);
 void RawSetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak);
 
-}  // namespace almara_fuzz
+}  // namespace almara::test
 
 #endif  // ALMARA_FUZZERS_API_RAW_BOOL_SETTERS_H_

@@ -13,7 +13,7 @@
 
 namespace {
 
-using almara_fuzz::Input;
+using almara::test::Input;
 
 // Weeks are carried year by year; a week this far away takes a millisecond.
 constexpr std::int32_t kMaxWeek = 30000;
@@ -36,9 +36,9 @@ void CheckWeeks(CCalendarWeekNumber& weeks, int year, int month, int day, int ty
   ALMARA_CHECK(iso >= 1 && iso <= 53);
   ALMARA_CHECK(uncorrected == iso || uncorrected == iso + 1);
   ALMARA_CHECK(counted >= 1 && counted <= 54);
-  if (day <= almara_test::DaysOfMonth(year, month)) {
+  if (day <= almara::test::DaysOfMonth(year, month)) {
     ALMARA_CHECK(weeks._GetDayOfTheWeek(year, month, day) ==
-                 almara_test::DayOfWeek({year, month, day}));
+                 almara::test::DayOfWeek({year, month, day}));
   }
 }
 

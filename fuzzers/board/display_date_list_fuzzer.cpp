@@ -14,7 +14,7 @@
 
 namespace {
 
-using almara_fuzz::Input;
+using almara::test::Input;
 
 constexpr int kMaxRows = 60;
 

@@ -15,9 +15,9 @@
 
 namespace {
 
-using almara_fuzz::Input;
-using almara_test::AddDays;
-using almara_test::Civil;
+using almara::test::AddDays;
+using almara::test::Civil;
+using almara::test::Input;
 
 constexpr int kReach = 20000;  // days; below the 24855 at which the seconds wrap
 
@@ -48,25 +48,25 @@ void CheckIsDateOrNone(const Day& date) {
 
 // Offsets within reach arrive where counting arrives. In UTC, where each day has 86400 seconds.
 void CheckArithmetic(Input& input) {
-  const almara_test::ScopedZone utc("UTC");
+  const almara::test::ScopedZone utc("UTC");
   Civil from{input.Within(1900, 2099), input.Within(1, 12), 0};
-  from.day = input.Within(1, almara_test::DaysOfMonth(from.year, from.month));
+  from.day = input.Within(1, almara::test::DaysOfMonth(from.year, from.month));
   const int days = input.Within(0, 2 * kReach) - kReach;
   const Day to = Offset({from.year, from.month, from.day, 0}, days);
   const Civil expected = AddDays(from, days);
   ALMARA_CHECK((Civil{to.year, to.month, to.day}) == expected);
-  ALMARA_CHECK(to.week == almara_test::DayOfWeek(expected));
+  ALMARA_CHECK(to.week == almara::test::DayOfWeek(expected));
 }
 
 void CheckAnyInt(Input& input) {
-  constexpr std::size_t kZones = sizeof almara_test::kZones / sizeof almara_test::kZones[0];
-  const almara_test::ScopedZone zone(almara_test::kZones[input.Byte() % kZones]);
+  constexpr std::size_t kZones = sizeof almara::test::kZones / sizeof almara::test::kZones[0];
+  const almara::test::ScopedZone zone(almara::test::kZones[input.Byte() % kZones]);
   Day date{input.About(1899, 2100), input.About(0, 13), input.About(0, 32), input.Raw()};
   CheckIsDateOrNone(Offset(date, input.About(-kReach, kReach)));
 
   CalendarPlatformApi::FixDateAndGetWeek(date.year, date.month, date.day, date.week);
   Day today;
-  almara_fuzz::SetNow(input.Raw());
+  almara::test::SetNow(input.Raw());
   CalendarPlatformApi::GetTodayDate(today.year, today.month, today.day, today.week);
   CheckIsDateOrNone(today);
 }

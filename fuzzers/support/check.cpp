@@ -19,7 +19,7 @@ extern "C" std::time_t time(std::time_t* result) noexcept {
   return g_now;
 }
 
-namespace almara_fuzz {
+namespace almara::test {
 
 void ReportBroken(const char* condition, const char* file, int line) {
   std::fprintf(stderr, "BROKEN: %s (%s %d)\n", condition, file, line);
@@ -40,4 +40,4 @@ double ThreadSeconds() {
 
 void SetNow(std::time_t now) { g_now = now; }
 
-}  // namespace almara_fuzz
+}  // namespace almara::test

@@ -4,7 +4,7 @@
 
 #include <ctime>
 
-namespace almara_fuzz {
+namespace almara::test {
 
 // Ends the process with the condition's text, so that the fuzzer keeps the input.
 [[noreturn]] void ReportBroken(const char* condition, const char* file, int line);
@@ -29,13 +29,13 @@ auto WithinSeconds(double limit, const char* name, Call call) {
   return answer;
 }
 
-}  // namespace almara_fuzz
+}  // namespace almara::test
 
-#define ALMARA_CHECK(condition)                                  \
-  do {                                                           \
-    if (!(condition)) {                                          \
-      almara_fuzz::ReportBroken(#condition, __FILE__, __LINE__); \
-    }                                                            \
+#define ALMARA_CHECK(condition)                                   \
+  do {                                                            \
+    if (!(condition)) {                                           \
+      almara::test::ReportBroken(#condition, __FILE__, __LINE__); \
+    }                                                             \
   } while (false)
 
 #endif  // ALMARA_FUZZERS_SUPPORT_CHECK_H_

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <limits>
 
-namespace almara_fuzz {
+namespace almara::test {
 
 // The bytes of one fuzz input, taken from the front. Behind their end every byte reads 0.
 class Input {
@@ -56,6 +56,6 @@ class Input {
   const std::uint8_t* m_end;
 };
 
-}  // namespace almara_fuzz
+}  // namespace almara::test
 
 #endif  // ALMARA_FUZZERS_SUPPORT_INPUT_H_

@@ -16,14 +16,14 @@
 #include "support/civil.h"
 #include "support/clock.h"
 
-using almara_test::AddDays;
-using almara_test::Board;
-using almara_test::Civil;
-using almara_test::DayNumber;
-using almara_test::DayOfWeek;
-using almara_test::DaysOfMonth;
-using almara_test::kFirstDay;
-using almara_test::NextDay;
+using almara::test::AddDays;
+using almara::test::Board;
+using almara::test::Civil;
+using almara::test::DayNumber;
+using almara::test::DayOfWeek;
+using almara::test::DaysOfMonth;
+using almara::test::kFirstDay;
+using almara::test::NextDay;
 
 namespace {
 
@@ -344,8 +344,8 @@ std::string Text(const Request& r) {
 }
 
 void Build(Board& board, const Request& r) {
-  almara_test::SetNow(std::time_t{DayNumber(r.today) + kUnixDayOf1900} * kSecondsPerDay +
-                      kSecondsPerDay / 2);
+  almara::test::SetNow(std::time_t{DayNumber(r.today) + kUnixDayOf1900} * kSecondsPerDay +
+                       kSecondsPerDay / 2);
   board.SetDispMonth(r.mode);
   board.SetStartDayOfWeek(r.start);
   board.SetShowMonthInterval(r.interval);

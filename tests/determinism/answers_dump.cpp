@@ -45,7 +45,7 @@ void PrintDaysOfEachZone() {
 
 void PrintLookUps() {
   for (ELanguage language = 0; language < kLanguages; ++language) {
-    almara_fuzz::StartFreshEngine();
+    almara::test::StartFreshEngine();
     InitCalendarLogicDt(language);
     Checksum checksum;
     ForEachDay(kFirstYear, kLastYear, [&](CCalendarSolarDate date) {
@@ -71,7 +71,7 @@ void AddBoard(Checksum& checksum) {
 }
 
 Checksum BoardsOf(EDispMonth mode, EWeekNumberCalc calcType, bool interval) {
-  almara_fuzz::StartFreshEngine();
+  almara::test::StartFreshEngine();
   SetDispMonth(mode);
   SetWeekNumberCalcType(calcType);
   SetShowMonthInterval(interval);
@@ -93,7 +93,7 @@ Checksum BoardsOf(EDispMonth mode, EWeekNumberCalc calcType, bool interval) {
 void PrintBoards(const char* zone) {
   setenv("TZ", zone, 1);
   tzset();
-  almara_test::SetToday(2024, 3, 13);
+  almara::test::SetToday(2024, 3, 13);
   for (EDispMonth mode = eDispMonthRollingWeeks; mode <= eDispMonthDayStrip; ++mode) {
     for (EWeekNumberCalc calcType = 0; calcType <= eWeekNumberCalcFromStartWeek; ++calcType) {
       for (const bool interval : {false, true}) {

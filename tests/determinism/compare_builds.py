@@ -12,6 +12,7 @@ multiply-adds: there a cosine may come out one bit off, and only answers must be
 
 import concurrent.futures
 import hashlib
+import itertools
 import os
 import pathlib
 import subprocess
@@ -66,7 +67,8 @@ def answers(lines: list) -> list:
 
 def differences(name: str, lines: list, first: str, wanted: list) -> list:
     return [f"{name} differs from {first}: {line} instead of {other}"
-            for line, other in zip(lines, wanted) if line != other]
+            for line, other in itertools.zip_longest(lines, wanted, fillvalue="no line")
+            if line != other]
 
 
 def compare(scratch: pathlib.Path, builds: list) -> list:

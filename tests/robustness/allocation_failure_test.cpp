@@ -63,7 +63,7 @@ void operator delete[](void* memory, std::size_t) noexcept { Release(memory); }
 
 namespace {
 
-using almara_test::Board;
+using almara::test::Board;
 using Action = std::function<void(Board&)>;
 
 // Runs the action with the allocation after the first count failing. Whether it came to that.
@@ -123,7 +123,7 @@ class FailingBuild : public testing::TestWithParam<BuildCase> {
     EXPECT_FALSE(board.IsTodayInBoard());
   }
 
-  almara_test::CaptureStdout m_output;
+  almara::test::CaptureStdout m_output;
 };
 
 TEST_P(FailingBuild, LeavesAnEmptyBoardAndTheNextBuildIsRight) {

@@ -17,7 +17,7 @@
 
 namespace {
 
-using almara_test::Board;
+using almara::test::Board;
 
 constexpr int kThreads = 4;
 
@@ -34,7 +34,7 @@ void OnEveryThread(Work work) {
 
 TEST(Concurrency, BuildsOfOneBoardExcludeEachOther) {
   constexpr int kBuilds = 200;
-  const almara_test::CaptureStdout output;
+  const almara::test::CaptureStdout output;
   Board board;
   board.SetDispMonth(eDispMonthWholeMonth);
   OnEveryThread([&board](int thread) {
@@ -50,7 +50,7 @@ TEST(Concurrency, BuildsOfOneBoardExcludeEachOther) {
 
 TEST(Concurrency, BuildsOfSeveralBoardsExcludeEachOther) {
   constexpr int kBuilds = 100;
-  const almara_test::CaptureStdout output;
+  const almara::test::CaptureStdout output;
   std::vector<Board> boards(kThreads);
   OnEveryThread([&boards](int thread) {
     Board& board = boards[static_cast<std::size_t>(thread)];

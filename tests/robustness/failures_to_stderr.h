@@ -6,7 +6,7 @@
 
 #include <cstdio>
 
-namespace almara_test {
+namespace almara::test {
 
 // Writes what failed to the standard error output too, for programs whose tests take away the
 // standard output.
@@ -25,6 +25,6 @@ inline const bool kFailuresGoToStderr = [] {
   return true;
 }();
 
-}  // namespace almara_test
+}  // namespace almara::test
 
 #endif  // ALMARA_TESTS_ROBUSTNESS_FAILURES_TO_STDERR_H_

@@ -54,7 +54,7 @@ testing::AssertionResult SumBehind(Redirect redirect, std::uint32_t& sum) {
     std::signal(SIGPIPE, SIG_DFL);
     redirect();
     const std::uint32_t answer = SumOfBoards();
-    almara_test::LeaveProcess(write(ends[1], &answer, sizeof answer) == sizeof answer ? 0 : 1);
+    almara::test::LeaveProcess(write(ends[1], &answer, sizeof answer) == sizeof answer ? 0 : 1);
   }
   close(ends[1]);
   const bool answered = read(ends[0], &sum, sizeof sum) == sizeof sum;
@@ -70,14 +70,14 @@ testing::AssertionResult SumBehind(Redirect redirect, std::uint32_t& sum) {
 void RedirectTo(const char* path) {
   const int file = open(path, O_WRONLY);
   if (file < 0 || dup2(file, STDOUT_FILENO) < 0) {
-    almara_test::LeaveProcess(99);
+    almara::test::LeaveProcess(99);
   }
 }
 
 void BreakPipe() {
   int ends[2];
   if (pipe(ends) != 0 || dup2(ends[1], STDOUT_FILENO) < 0) {
-    almara_test::LeaveProcess(99);
+    almara::test::LeaveProcess(99);
   }
   close(ends[0]);
   close(ends[1]);
@@ -107,7 +107,7 @@ TEST_F(OutputFailure, ClosedDescriptor) {
 TEST_F(OutputFailure, ClosedStream) {
   ExpectRightBoards([] {
     if (std::freopen("/dev/null", "r", stdout) == nullptr) {
-      almara_test::LeaveProcess(99);
+      almara::test::LeaveProcess(99);
     }
   });
 }

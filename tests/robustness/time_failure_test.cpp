@@ -59,7 +59,7 @@ extern "C" std::time_t mktime(std::tm* local) noexcept {
 
 namespace {
 
-using almara_test::Board;
+using almara::test::Board;
 
 class TimeFailure : public testing::Test {
  protected:
@@ -73,7 +73,7 @@ class TimeFailure : public testing::Test {
     EXPECT_EQ(date.dayOfWeek, week);
   }
 
-  almara_test::CaptureStdout m_output;
+  almara::test::CaptureStdout m_output;
   Board m_board;
 };
 

@@ -270,14 +270,14 @@ TEST_F(Totality, EveryByteOfABoolCountsByItsLowestBit) {
   for (int byte = 0; byte < 256; ++byte) {
     const auto flag = static_cast<std::uint8_t>(byte);
     const bool isSet = byte % 2 == 1;
-    almara_fuzz::RawSetHideBreakDay(flag);
+    almara::test::RawSetHideBreakDay(flag);
     EXPECT_EQ(GetHideBreakDay(), isSet);
     EXPECT_EQ(GetShowMonthInterval(), isSet) << "answers for the other flag";
-    almara_fuzz::RawSetShowBreakDayOfWeek(flag);
+    almara::test::RawSetShowBreakDayOfWeek(flag);
     EXPECT_EQ(GetShowBreakDayOfWeek(), isSet);
-    almara_fuzz::RawSetShowMonthInterval(flag);
+    almara::test::RawSetShowMonthInterval(flag);
     for (const std::int32_t day : kExtremes) {
-      almara_fuzz::RawSetBreakDayOfWeek(day, flag);
+      almara::test::RawSetBreakDayOfWeek(day, flag);
       EXPECT_EQ(IsBreakDayOfWeek(day), isSet && day >= 0 && day <= 6);
     }
   }

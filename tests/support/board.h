@@ -8,7 +8,7 @@
 
 #include "logic/calendar_logic.h"
 
-namespace almara_test {
+namespace almara::test {
 
 // An engine that shows its inside and can build without writing the board.
 class Board : public CCalendarLogic {
@@ -66,6 +66,8 @@ class Board : public CCalendarLogic {
   }
 };
 
-}  // namespace almara_test
+}  // namespace almara::test
+
+namespace almara_test = almara::test;
 
 #endif  // ALMARA_TESTS_SUPPORT_BOARD_H_

@@ -8,7 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace almara_test {
+namespace almara::test {
 
 namespace {
 
@@ -61,4 +61,4 @@ std::string CaptureStdout::Take() {
   return text;
 }
 
-}  // namespace almara_test
+}  // namespace almara::test

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace almara_test {
+namespace almara::test {
 
 // Keeps what the process writes to file descriptor 1 while the object lives.
 class CaptureStdout {
@@ -22,6 +22,8 @@ class CaptureStdout {
   int m_file;
 };
 
-}  // namespace almara_test
+}  // namespace almara::test
+
+namespace almara_test = almara::test;
 
 #endif  // ALMARA_TESTS_SUPPORT_CAPTURE_STDOUT_H_

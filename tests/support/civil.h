@@ -7,7 +7,7 @@
 #include <ostream>
 #include <tuple>
 
-namespace almara_test {
+namespace almara::test {
 
 struct Civil {
   int year;
@@ -76,6 +76,8 @@ constexpr Civil kLastDay{2099, 12, 31};
 static_assert(DayNumber({1900, 1, 1}) == 0 && DayNumber({2000, 3, 1}) == 36584 &&
               DayNumber(kLastDay) == 73048 && DayOfWeek({2024, 2, 29}) == 4);
 
-}  // namespace almara_test
+}  // namespace almara::test
+
+namespace almara_test = almara::test;
 
 #endif  // ALMARA_TESTS_SUPPORT_CIVIL_H_

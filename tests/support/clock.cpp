@@ -16,7 +16,7 @@ extern "C" std::time_t time(std::time_t* result) noexcept {
   return g_now;
 }
 
-namespace almara_test {
+namespace almara::test {
 
 void SetNow(std::time_t now) { g_now = now; }
 
@@ -31,4 +31,4 @@ void SetToday(int year, int month, int day) {
   g_now = wanted - local->tm_gmtoff;
 }
 
-}  // namespace almara_test
+}  // namespace almara::test

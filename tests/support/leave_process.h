@@ -10,7 +10,7 @@
 extern "C" void __gcov_dump();
 #endif
 
-namespace almara_test {
+namespace almara::test {
 
 // Ends a child process at once, as _exit() does. A build that measures coverage counts what ran in
 // it.
@@ -24,6 +24,8 @@ namespace almara_test {
   _exit(status);
 }
 
-}  // namespace almara_test
+}  // namespace almara::test
+
+namespace almara_test = almara::test;
 
 #endif  // ALMARA_TESTS_SUPPORT_LEAVE_PROCESS_H_

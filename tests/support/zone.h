@@ -6,7 +6,7 @@
 #include <ctime>
 #include <string>
 
-namespace almara_test {
+namespace almara::test {
 
 // Puts the process into a time zone while the object lives.
 class ScopedZone {
@@ -40,6 +40,8 @@ inline const char* const kZones[] = {
     "UTC",          "Asia/Shanghai", "America/New_York", "America/St_Johns", "Australia/Lord_Howe",
     "Pacific/Apia", "Europe/London"};
 
-}  // namespace almara_test
+}  // namespace almara::test
+
+namespace almara_test = almara::test;
 
 #endif  // ALMARA_TESTS_SUPPORT_ZONE_H_
