@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the engine knows about a day beside the board: lunar date, solar term and festivals.
-#pragma once
+#ifndef ALMARA_VIEWER_ANNOTATIONS_H_
+#define ALMARA_VIEWER_ANNOTATIONS_H_
 
 #include <almara/almara_types.h>
 
@@ -11,7 +12,7 @@
 #include "civil_date.h"
 #include "texts.h"
 
-namespace viewer {
+namespace almara::viewer {
 
 struct Annotation {
   CCalendarLunarDate lunar{};
@@ -19,7 +20,7 @@ struct Annotation {
   EFestivalLunar lunarFestival = eFestivalLunarNone;
   EFestivalSolar solarFestival = eFestivalSolarNone;
 
-  bool hasName() const {
+  bool HasName() const {
     return solarTerm != eSekkiNone || lunarFestival != eFestivalLunarNone ||
            solarFestival != eFestivalSolarNone;
   }
@@ -28,33 +29,35 @@ struct Annotation {
 // Asks the engine, which keeps every answer. To be used once the engine is started.
 class Annotator {
  public:
-  explicit Annotator(ELanguage region) : region_(region) {}
+  explicit Annotator(ELanguage region) : m_region(region) {}
 
-  Annotation annotate(CivilDate date);
+  Annotation Annotate(CivilDate date);
 
  private:
-  void findEaster(int year);
+  void FindEaster(int year);
 
-  ELanguage region_;
-  std::set<int> yearsWithEaster_;
+  ELanguage m_region;
+  std::set<int> m_yearsWithEaster;
 };
 
 // A name that the day has, with the form for a narrow place.
 struct DayName {
-  enum class Kind { LunarFestival, SolarFestival, SolarTerm };
-  Kind kind = Kind::SolarTerm;
+  enum class Kind { kLunarFestival, kSolarFestival, kSolarTerm };
+  Kind kind = Kind::kSolarTerm;
   std::int32_t code = 0;
 };
 
 // The day's names, the weightiest first: festivals before the solar term.
-std::vector<DayName> namesOf(const Annotation& annotation);
-std::string fullName(const DayName& name, TextLanguage language);
-std::string briefName(const DayName& name, TextLanguage language);
+std::vector<DayName> NamesOf(const Annotation& annotation);
+std::string FullName(const DayName& name, TextLanguage language);
+std::string BriefName(const DayName& name, TextLanguage language);
 
 // The lunar day as it stands under a day: the month's name on its first day.
-std::string lunarDayText(const Texts& texts, const CCalendarLunarDate& lunar);
+std::string LunarDayText(const Texts& texts, const CCalendarLunarDate& lunar);
 
 // The whole lunar date.
-std::string lunarDateText(const Texts& texts, const CCalendarLunarDate& lunar);
+std::string LunarDateText(const Texts& texts, const CCalendarLunarDate& lunar);
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_ANNOTATIONS_H_

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 // The board options as the viewer holds them. The viewer keeps its own copy because the engine
 // cannot be asked for all of them: GetShowMonthInterval() answers with another flag.
-#pragma once
+#ifndef ALMARA_VIEWER_BOARD_OPTIONS_H_
+#define ALMARA_VIEWER_BOARD_OPTIONS_H_
 
 #include <almara/almara_types.h>
 
 #include <array>
 
-namespace viewer {
+namespace almara::viewer {
 
 struct BoardOptions {
   EDispMonth mode = eDispMonthRollingWeeks;
@@ -20,6 +21,13 @@ struct BoardOptions {
   bool hideBreakDays = false;
   bool monthIntervals = true;
   ELanguage language = eLanguageEng;
+};
+
+// One step of navigation, as --next, --previous and --offset name them.
+struct Step {
+  enum class Kind { kNext, kPrevious, kOffset };
+  Kind kind = Kind::kNext;
+  int offset = 0;  // for Kind::Offset
 };
 
 // The words that stand for the engine's values on the command line and in JSON.
@@ -49,7 +57,7 @@ constexpr Word<ELanguage> kLanguageWords[] = {
     {"vit", eLanguageVit}, {"tha", eLanguageTha}};
 
 template <typename Words, typename Value>
-const char* wordFor(const Words& words, Value value) {
+const char* WordFor(const Words& words, Value value) {
   for (const auto& word : words) {
     if (word.value == value) {
       return word.text;
@@ -58,4 +66,6 @@ const char* wordFor(const Words& words, Value value) {
   return "";
 }
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_BOARD_OPTIONS_H_

@@ -5,7 +5,7 @@
 
 #include "text_layout.h"
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
 constexpr int kWeekNumberWidth = 5;                     // "52/53"
@@ -19,7 +19,7 @@ struct Geometry {
   int cell = kWidestCell;
 };
 
-Geometry geometryFor(int columns, const PaintSettings& settings) {
+Geometry GeometryFor(int columns, const PaintSettings& settings) {
   Geometry geometry;
   columns = std::max(columns, 1);
   if (settings.weekNumbers && settings.width >= kWeekColumnWidth + columns * kNarrowestCell) {
@@ -32,21 +32,21 @@ Geometry geometryFor(int columns, const PaintSettings& settings) {
 
 // The months that the title names: in the whole-month arrangement the board's own, otherwise those
 // of the shown days.
-std::string titleText(const Board& board, const Texts& texts) {
-  const std::vector<CivilDate> days = shownDays(board);
-  if (days.empty() || board.mode == eDispMonthWholeMonth) {
-    const CivilDate date = dateOf(board.contentDate);
-    return monthsText(texts, date, date);
+std::string TitleText(const BoardSnapshot& board, const Texts& texts) {
+  const std::vector<CivilDate> days = ShownDays(board);
+  if (days.empty() || board.options.mode == eDispMonthWholeMonth) {
+    const CivilDate date = DateOf(board.contentDate);
+    return MonthsText(texts, date, date);
   }
-  return monthsText(texts, days.front(), days.back());
+  return MonthsText(texts, days.front(), days.back());
 }
 
-std::string spanNumber(const tagWeekNumberSpan& span) {
+std::string SpanNumber(const tagWeekNumberSpan& span) {
   const bool two = span.secondWeekNumber > 0 && span.secondWeekNumber != span.weekNumber;
   return std::to_string(span.weekNumber) + (two ? "/" + std::to_string(span.secondWeekNumber) : "");
 }
 
-const char* spanBracket(std::size_t line, std::size_t lines, const Glyphs& glyphs) {
+const char* SpanBracket(std::size_t line, std::size_t lines, const Glyphs& glyphs) {
   if (lines == 1) {
     return glyphs.spanSingle;
   }
@@ -58,18 +58,18 @@ const char* spanBracket(std::size_t line, std::size_t lines, const Glyphs& glyph
 
 // The week-number column: one text of kWeekColumnWidth cells for each line of the board. A span
 // without a number stays blank.
-std::vector<std::string> weekColumnTexts(const Board& board, std::size_t linesPerRow,
+std::vector<std::string> WeekColumnTexts(const BoardSnapshot& board, std::size_t linesPerRow,
                                          const Glyphs& glyphs) {
-  const std::string blank = repeat(" ", kWeekColumnWidth);
+  const std::string blank = Repeat(" ", kWeekColumnWidth);
   std::vector<std::string> texts;
   for (const tagWeekNumberSpan& span : board.weekSpans) {
     const std::size_t lines = static_cast<std::size_t>(span.rows) * linesPerRow;
     for (std::size_t line = 0; line < lines; ++line) {
-      const std::string number = line == 0 ? spanNumber(span) : "";
+      const std::string number = line == 0 ? SpanNumber(span) : "";
       texts.push_back(span.weekNumber < 1
                           ? blank
-                          : fit(number, kWeekNumberWidth, glyphs.ellipsis, Align::Right) + " " +
-                                spanBracket(line, lines, glyphs));
+                          : Fit(number, kWeekNumberWidth, glyphs.ellipsis, Align::kRight) + " " +
+                                SpanBracket(line, lines, glyphs));
     }
   }
   texts.resize(board.rows.size() * linesPerRow, blank);
@@ -78,71 +78,71 @@ std::vector<std::string> weekColumnTexts(const Board& board, std::size_t linesPe
 
 class BoardPainter {
  public:
-  BoardPainter(const Board& board, const PaintSettings& settings)
-      : board_(board),
-        settings_(settings),
-        texts_(*settings.texts),
-        glyphs_(*settings.glyphs),
-        geometry_(geometryFor(board.columns(), settings)) {}
+  BoardPainter(const BoardSnapshot& board, const PaintSettings& settings)
+      : m_board(board),
+        m_settings(settings),
+        m_texts(*settings.texts),
+        m_glyphs(*settings.glyphs),
+        m_geometry(GeometryFor(board.Columns(), settings)) {}
 
-  PaintedBoard paint() const {
+  PaintedBoard Paint() const {
     PaintedBoard painted;
-    painted.title = {titlePiece()};
-    painted.headings = headings();
-    for (const auto& row : board_.rows) {
-      painted.rows.push_back({dateLine(row)});
-      if (annotated()) {
-        painted.rows.back().push_back(annotationLine(row));
+    painted.title = {TitlePiece()};
+    painted.headings = Headings();
+    for (const auto& row : m_board.rows) {
+      painted.rows.push_back({DateLine(row)});
+      if (Annotated()) {
+        painted.rows.back().push_back(AnnotationLine(row));
       }
     }
-    if (geometry_.weekColumn > 0) {
-      addWeekColumn(painted.rows);
+    if (m_geometry.weekColumn > 0) {
+      AddWeekColumn(painted.rows);
     }
     return painted;
   }
 
  private:
   // In the middle above the board, however narrow that is.
-  Piece titlePiece() const {
-    const std::string title = titleText(board_, texts_);
-    const int boardWidth = geometry_.weekColumn + geometry_.cell * board_.columns();
-    const int width = std::min(std::max(boardWidth, displayWidth(title)), settings_.width);
-    return {fit(title, width, glyphs_.ellipsis, Align::Center), Role::Title};
+  Piece TitlePiece() const {
+    const std::string title = TitleText(m_board, m_texts);
+    const int boardWidth = m_geometry.weekColumn + m_geometry.cell * m_board.Columns();
+    const int width = std::min(std::max(boardWidth, DisplayWidth(title)), m_settings.width);
+    return {Fit(title, width, m_glyphs.ellipsis, Align::kCenter), Role::kTitle};
   }
 
-  Line headings() const {
+  Line Headings() const {
     Line line;
-    if (geometry_.weekColumn > 0) {
+    if (m_geometry.weekColumn > 0) {
       line.push_back(
-          {fit(texts_.weekHeading, kWeekNumberWidth, glyphs_.ellipsis, Align::Right) + "  ",
-           Role::WeekNumber});
+          {Fit(m_texts.weekHeading, kWeekNumberWidth, m_glyphs.ellipsis, Align::kRight) + "  ",
+           Role::kWeekNumber});
     }
-    for (std::size_t column = 0; column < board_.headings.size(); ++column) {
-      line.push_back({inCell(texts_.weekdays[board_.headings[column]]),
-                      board_.breakColumns[column] ? Role::BreakHeading : Role::Heading});
+    for (std::size_t column = 0; column < m_board.headings.size(); ++column) {
+      line.push_back({InCell(Weekday(m_texts, m_board.headings[column])),
+                      m_board.breakColumns[column] ? Role::kBreakHeading : Role::kHeading});
     }
     return line;
   }
 
-  bool annotated() const {
-    return settings_.annotator != nullptr && geometry_.cell >= kNarrowestAnnotation;
+  bool Annotated() const {
+    return m_settings.annotator != nullptr && m_geometry.cell >= kNarrowestAnnotation;
   }
 
   // A text inside a cell leaves the cell's first position free: it parts the columns and takes the
   // bracket of today.
-  std::string inCell(const std::string& text) const {
-    return " " + fit(text, geometry_.cell - 1, glyphs_.ellipsis);
+  std::string InCell(const std::string& text) const {
+    return " " + Fit(text, m_geometry.cell - 1, m_glyphs.ellipsis);
   }
 
-  Line dateLine(const std::vector<tagCalendarCell>& row) const {
+  Line DateLine(const std::vector<tagCalendarCell>& row) const {
     Line line;
     for (std::size_t column = 0; column < row.size();) {
-      const std::size_t end = intervalEnd(row, column);
+      const std::size_t end = IntervalEnd(row, column);
       if (end > column) {
-        line.push_back({intervalText(row, column, end), Role::MonthTitle});
+        line.push_back({IntervalText(row, column, end), Role::kMonthTitle});
         column = end;
       } else {
-        line.push_back(dayPiece(row[column]));
+        line.push_back(DayPiece(row[column]));
         ++column;
       }
     }
@@ -150,99 +150,99 @@ class BoardPainter {
   }
 
   // Behind the cells from `column` on that belong to one month interval.
-  static std::size_t intervalEnd(const std::vector<tagCalendarCell>& row, std::size_t column) {
-    while (column < row.size() && isInterval(row[column])) {
+  static std::size_t IntervalEnd(const std::vector<tagCalendarCell>& row, std::size_t column) {
+    while (column < row.size() && IsInterval(row[column])) {
       ++column;
     }
     return column;
   }
 
   // A month interval is a rule across its cells; the title stands in the rule.
-  std::string intervalText(const std::vector<tagCalendarCell>& row, std::size_t begin,
+  std::string IntervalText(const std::vector<tagCalendarCell>& row, std::size_t begin,
                            std::size_t end) const {
-    const int width = static_cast<int>(end - begin) * geometry_.cell;
+    const int width = static_cast<int>(end - begin) * m_geometry.cell;
     if (row[begin].type != eCalendarItemMonthTitle) {
-      return repeat(glyphs_.rule, width);
+      return Repeat(m_glyphs.rule, width);
     }
-    const std::string title = intervalTitle(row[begin].month, width);
-    return title + repeat(glyphs_.rule, width - displayWidth(title));
+    const std::string title = IntervalTitle(row[begin].month, width);
+    return title + Repeat(m_glyphs.rule, width - DisplayWidth(title));
   }
 
   // The longest form of the month's name that fits, set off from the rule where there is room.
-  std::string intervalTitle(int month, int width) const {
-    const std::string name = texts_.months[month - 1];
-    const std::string shortName = texts_.shortMonths[month - 1];
-    const std::string rule = glyphs_.rule;
+  std::string IntervalTitle(int month, int width) const {
+    const std::string name = Month(m_texts, month);
+    const std::string shortName = ShortMonth(m_texts, month);
+    const std::string rule = m_glyphs.rule;
     const std::string spaced = std::string(rule).append(" ").append(name).append(" ");
     for (const std::string& form : {spaced, rule + name, rule + shortName}) {
-      if (displayWidth(form) <= width) {
+      if (DisplayWidth(form) <= width) {
         return form;
       }
     }
-    return shorten(shortName, width, "");
+    return Shorten(shortName, width, "");
   }
 
-  Piece dayPiece(const tagCalendarCell& cell) const {
-    if (!showsDay(cell)) {
-      return {repeat(" ", geometry_.cell), Role::Plain};
+  Piece DayPiece(const tagCalendarCell& cell) const {
+    if (!ShowsDay(cell)) {
+      return {Repeat(" ", m_geometry.cell), Role::kPlain};
     }
-    const bool today = isToday(cell);
+    const bool today = IsToday(cell);
     const std::string number = (cell.day < 10 ? " " : "") + std::to_string(cell.day);
     std::string text = today ? "[" + number + "]" : " " + number;
-    if (isBreakDay(cell)) {
-      text += glyphs_.breakDay;
+    if (IsBreakDay(cell)) {
+      text += m_glyphs.breakDay;
     }
-    const Role role = today ? Role::Today : isBreakDay(cell) ? Role::BreakDay : Role::Day;
-    return {fit(text, geometry_.cell, ""), role, settings_.selected == dateOf(cell)};
+    const Role role = today ? Role::kToday : IsBreakDay(cell) ? Role::kBreakDay : Role::kDay;
+    return {Fit(text, m_geometry.cell, ""), role, m_settings.selected == DateOf(cell)};
   }
 
-  Line annotationLine(const std::vector<tagCalendarCell>& row) const {
+  Line AnnotationLine(const std::vector<tagCalendarCell>& row) const {
     Line line;
     for (const tagCalendarCell& cell : row) {
-      line.push_back(showsDay(cell) ? annotationPiece(dateOf(cell))
-                                    : Piece{repeat(" ", geometry_.cell)});
+      line.push_back(ShowsDay(cell) ? AnnotationPiece(DateOf(cell))
+                                    : Piece{Repeat(" ", m_geometry.cell)});
     }
     return line;
   }
 
   // The day's weightiest name, or else its lunar day.
-  Piece annotationPiece(CivilDate date) const {
-    const bool selected = settings_.selected == date;
-    const Annotation annotation = settings_.annotator->annotate(date);
-    const std::vector<DayName> names = namesOf(annotation);
+  Piece AnnotationPiece(CivilDate date) const {
+    const bool selected = m_settings.selected == date;
+    const Annotation annotation = m_settings.annotator->Annotate(date);
+    const std::vector<DayName> names = NamesOf(annotation);
     if (names.empty()) {
-      return {inCell(lunarDayText(texts_, annotation.lunar)), Role::LunarDay, selected};
+      return {InCell(LunarDayText(m_texts, annotation.lunar)), Role::kLunarDay, selected};
     }
     const DayName& name = names.front();
-    const std::string full = fullName(name, texts_.language);
-    const bool fits = displayWidth(full) < geometry_.cell;
-    return {inCell(fits ? full : briefName(name, texts_.language)),
-            name.kind == DayName::Kind::SolarTerm ? Role::SolarTerm : Role::Festival, selected};
+    const std::string full = FullName(name, m_texts.language);
+    const bool fits = DisplayWidth(full) < m_geometry.cell;
+    return {InCell(fits ? full : BriefName(name, m_texts.language)),
+            name.kind == DayName::Kind::kSolarTerm ? Role::kSolarTerm : Role::kFestival, selected};
   }
 
-  void addWeekColumn(std::vector<std::vector<Line>>& rows) const {
-    const std::size_t linesPerRow = annotated() ? 2 : 1;
-    const std::vector<std::string> texts = weekColumnTexts(board_, linesPerRow, glyphs_);
+  void AddWeekColumn(std::vector<std::vector<Line>>& rows) const {
+    const std::size_t linesPerRow = Annotated() ? 2 : 1;
+    const std::vector<std::string> texts = WeekColumnTexts(m_board, linesPerRow, m_glyphs);
     std::size_t index = 0;
     for (auto& row : rows) {
       for (Line& line : row) {
-        line.insert(line.begin(), {texts[index], Role::WeekNumber});
+        line.insert(line.begin(), {texts[index], Role::kWeekNumber});
         ++index;
       }
     }
   }
 
-  const Board& board_;
-  const PaintSettings& settings_;
-  const Texts& texts_;
-  const Glyphs& glyphs_;
-  const Geometry geometry_;
+  const BoardSnapshot& m_board;
+  const PaintSettings& m_settings;
+  const Texts& m_texts;
+  const Glyphs& m_glyphs;
+  const Geometry m_geometry;
 };
 
 }  // namespace
 
-PaintedBoard paintBoard(const Board& board, const PaintSettings& settings) {
-  return BoardPainter(board, settings).paint();
+PaintedBoard PaintBoard(const BoardSnapshot& board, const PaintSettings& settings) {
+  return BoardPainter(board, settings).Paint();
 }
 
-}  // namespace viewer
+}  // namespace almara::viewer

@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
 // Draws a board as lines of text; one-shot output and full screen share it.
-#pragma once
+#ifndef ALMARA_VIEWER_BOARD_PAINTER_H_
+#define ALMARA_VIEWER_BOARD_PAINTER_H_
 
 #include <optional>
 #include <vector>
 
 #include "annotations.h"
-#include "board.h"
+#include "board_snapshot.h"
 #include "glyphs.h"
 #include "styled_text.h"
 #include "texts.h"
 
-namespace viewer {
+namespace almara::viewer {
 
 struct PaintSettings {
   int width = 80;  // terminal cells that may be used
@@ -28,6 +29,8 @@ struct PaintedBoard {
   std::vector<std::vector<Line>> rows;  // the lines of each visible row, the same number for all
 };
 
-PaintedBoard paintBoard(const Board& board, const PaintSettings& settings);
+PaintedBoard PaintBoard(const BoardSnapshot& board, const PaintSettings& settings);
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_BOARD_PAINTER_H_

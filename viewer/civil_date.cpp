@@ -5,10 +5,10 @@
 #include <cstdio>
 #include <regex>
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
-bool isLeapYear(int year) { return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0; }
+bool IsLeapYear(int year) { return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0; }
 
 // Days from 0000-03-01 to 1970-01-01. Years are counted from March, so that a leap day is the last
 // day of its year.
@@ -17,27 +17,27 @@ constexpr int kDaysOf4Years = 1461;
 constexpr int kDaysOf100Years = 36524;
 constexpr int kDaysOf400Years = 146097;
 
-CivilDate clampToRange(CivilDate date) { return std::clamp(date, kFirstDate, kLastDate); }
+CivilDate ClampToRange(CivilDate date) { return std::clamp(date, kFirstDate, kLastDate); }
 
 }  // namespace
 
-int daysInYear(int year) { return isLeapYear(year) ? 366 : 365; }
+int DaysInYear(int year) { return IsLeapYear(year) ? 366 : 365; }
 
-int daysInMonth(int year, int month) {
+int DaysInMonth(int year, int month) {
   constexpr int kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  return month == 2 && isLeapYear(year) ? 29 : kDays[month - 1];
+  return month == 2 && IsLeapYear(year) ? 29 : kDays[month - 1];
 }
 
-int dayOfYear(CivilDate date) { return dayNumber(date) - dayNumber({date.year, 1, 1}) + 1; }
+int DayOfYear(CivilDate date) { return DayNumber(date) - DayNumber({date.year, 1, 1}) + 1; }
 
-int dayNumber(CivilDate date) {
+int DayNumber(CivilDate date) {
   const int year = date.month > 2 ? date.year : date.year - 1;
   const int monthFromMarch = (date.month + 9) % 12;
   const int dayOfMarchYear = (153 * monthFromMarch + 2) / 5 + date.day - 1;
   return year * 365 + year / 4 - year / 100 + year / 400 + dayOfMarchYear - kDaysBefore1970;
 }
 
-CivilDate fromDayNumber(int number) {
+CivilDate FromDayNumber(int number) {
   const int days = number + kDaysBefore1970;
   const int era = days / kDaysOf400Years;
   const int dayOfEra = days % kDaysOf400Years;
@@ -51,22 +51,22 @@ CivilDate fromDayNumber(int number) {
   return {era * 400 + yearOfEra + (month <= 2 ? 1 : 0), month, day};
 }
 
-CivilDate addDays(CivilDate date, int days) {
-  return clampToRange(fromDayNumber(dayNumber(date) + days));
+CivilDate AddDays(CivilDate date, int days) {
+  return ClampToRange(FromDayNumber(DayNumber(date) + days));
 }
 
-CivilDate addMonths(CivilDate date, int months) {
+CivilDate AddMonths(CivilDate date, int months) {
   const int month = date.year * 12 + date.month - 1 + months;
-  const CivilDate first = clampToRange({month / 12, month % 12 + 1, 1});
-  return {first.year, first.month, std::min(date.day, daysInMonth(first.year, first.month))};
+  const CivilDate first = ClampToRange({month / 12, month % 12 + 1, 1});
+  return {first.year, first.month, std::min(date.day, DaysInMonth(first.year, first.month))};
 }
 
-ECalendarWeek dayOfWeek(CivilDate date) {
-  const int daysFromSunday = (dayNumber(date) + eCalendarWeekThursday) % 7;  // 1970-01-01
+ECalendarWeek DayOfWeek(CivilDate date) {
+  const int daysFromSunday = (DayNumber(date) + eCalendarWeekThursday) % 7;  // 1970-01-01
   return daysFromSunday < 0 ? daysFromSunday + 7 : daysFromSunday;
 }
 
-ParsedDate parseDate(const std::string& text) {
+ParsedDate ParseDate(const std::string& text) {
   static const std::regex kPattern(R"((\d{1,4})-(\d{1,2})-(\d{1,2}))");
   std::smatch match;
   if (!std::regex_match(text, match, kPattern)) {
@@ -77,16 +77,16 @@ ParsedDate parseDate(const std::string& text) {
     return {std::nullopt, text + " is outside the years 1900 to 2099"};
   }
   if (date.month < 1 || date.month > 12 || date.day < 1 ||
-      date.day > daysInMonth(date.year, date.month)) {
+      date.day > DaysInMonth(date.year, date.month)) {
     return {std::nullopt, text + " is not a day of the calendar"};
   }
   return {date, {}};
 }
 
-std::string isoText(CivilDate date) {
+std::string IsoText(CivilDate date) {
   char text[40];
   std::snprintf(text, sizeof text, "%04d-%02d-%02d", date.year, date.month, date.day);
   return text;
 }
 
-}  // namespace viewer
+}  // namespace almara::viewer

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // A day of the Gregorian calendar and the little arithmetic that the viewer itself needs: checking
 // what the user typed and moving a selection. What the board shows always comes from the engine.
-#pragma once
+#ifndef ALMARA_VIEWER_CIVIL_DATE_H_
+#define ALMARA_VIEWER_CIVIL_DATE_H_
 
 #include <almara/almara_types.h>
 
@@ -9,7 +10,7 @@
 #include <string>
 #include <tuple>
 
-namespace viewer {
+namespace almara::viewer {
 
 struct CivilDate {
   int year = 0;
@@ -31,23 +32,23 @@ constexpr int kLastYear = 2099;
 constexpr CivilDate kFirstDate{kFirstYear, 1, 1};
 constexpr CivilDate kLastDate{kLastYear, 12, 31};
 
-int daysInYear(int year);
-int daysInMonth(int year, int month);
+int DaysInYear(int year);
+int DaysInMonth(int year, int month);
 
 // 1 on 1 January.
-int dayOfYear(CivilDate date);
+int DayOfYear(CivilDate date);
 
 // Days from 1970-01-01, negative before it.
-int dayNumber(CivilDate date);
-CivilDate fromDayNumber(int number);
+int DayNumber(CivilDate date);
+CivilDate FromDayNumber(int number);
 
 // The day some days away, kept between kFirstDate and kLastDate.
-CivilDate addDays(CivilDate date, int days);
+CivilDate AddDays(CivilDate date, int days);
 
 // The same day some months away, or the month's last day if it is shorter; kept in the same range.
-CivilDate addMonths(CivilDate date, int months);
+CivilDate AddMonths(CivilDate date, int months);
 
-ECalendarWeek dayOfWeek(CivilDate date);
+ECalendarWeek DayOfWeek(CivilDate date);
 
 // Reads YYYY-MM-DD. On failure the date is empty and the problem says why, as the end of a sentence
 // that begins with the name of the option.
@@ -55,9 +56,11 @@ struct ParsedDate {
   std::optional<CivilDate> date;
   std::string problem;
 };
-ParsedDate parseDate(const std::string& text);
+ParsedDate ParseDate(const std::string& text);
 
 // YYYY-MM-DD
-std::string isoText(CivilDate date);
+std::string IsoText(CivilDate date);
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_CIVIL_DATE_H_

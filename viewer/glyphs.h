@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The signs that a board is drawn with; each takes one terminal cell.
-#pragma once
+#ifndef ALMARA_VIEWER_GLYPHS_H_
+#define ALMARA_VIEWER_GLYPHS_H_
 
-namespace viewer {
+namespace almara::viewer {
 
 struct Glyphs {
   const char* rule;     // month intervals
@@ -17,6 +18,8 @@ struct Glyphs {
 constexpr Glyphs kUnicodeGlyphs = {"─", "╭", "│", "╰", "╶", "·", "…"};
 constexpr Glyphs kAsciiGlyphs = {"-", "/", "|", "\\", "-", ".", "~"};
 
-constexpr const Glyphs& glyphsFor(bool utf8) { return utf8 ? kUnicodeGlyphs : kAsciiGlyphs; }
+constexpr const Glyphs& GlyphsFor(bool utf8) { return utf8 ? kUnicodeGlyphs : kAsciiGlyphs; }
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_GLYPHS_H_

@@ -33,21 +33,22 @@
 //   region, language, year
 //   days               [{year, month, day, dayOfWeek, lunar, solarTerm, festivals}], the days that
 //                      have a solar term or a festival
-#pragma once
+#ifndef ALMARA_VIEWER_JSON_OUTPUT_H_
+#define ALMARA_VIEWER_JSON_OUTPUT_H_
 
 #include <string>
 #include <vector>
 
-#include "board.h"
-#include "board_options.h"
+#include "board_snapshot.h"
 #include "listing.h"
 
-namespace viewer {
+namespace almara::viewer {
 
 // With `ascii` every other character is written as an escape.
-std::string boardJson(const Board& board, const BoardOptions& options, Annotator& annotator,
-                      bool ascii);
-std::string dayJson(const DayReport& report, ELanguage region, bool ascii);
-std::string yearJson(int year, const std::vector<NamedDay>& days, ELanguage region, bool ascii);
+std::string BoardJson(const BoardSnapshot& board, Annotator& annotator, bool ascii);
+std::string DayJson(const DayReport& report, ELanguage region, bool ascii);
+std::string YearJson(int year, const std::vector<NamedDay>& days, ELanguage region, bool ascii);
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_JSON_OUTPUT_H_

@@ -6,83 +6,83 @@
 
 #include "text_layout.h"
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
 constexpr int kGap = 3;  // cells between the columns of the legend
 
-Role roleOf(DayName::Kind kind) {
-  return kind == DayName::Kind::SolarTerm ? Role::SolarTerm : Role::Festival;
+Role RoleOf(DayName::Kind kind) {
+  return kind == DayName::Kind::kSolarTerm ? Role::kSolarTerm : Role::kFestival;
 }
 
-int widthOf(const Line& line) {
+int WidthOf(const Line& line) {
   int width = 0;
   for (const Piece& piece : line) {
-    width += displayWidth(piece.text);
+    width += DisplayWidth(piece.text);
   }
   return width;
 }
 
-void append(Line& line, const Line& more) { line.insert(line.end(), more.begin(), more.end()); }
+void Append(Line& line, const Line& more) { line.insert(line.end(), more.begin(), more.end()); }
 
-Line legendEntry(const NamedDay& day, const Texts& texts, int dateWidth) {
-  Line entry = {
-      {" " + fit(dayOfMonthText(texts, day.date), dateWidth, "", Align::Right) + "  ", Role::Hint}};
-  append(entry, namesLine(day.annotation, texts.language));
+Line LegendEntry(const NamedDay& day, const Texts& texts, int dateWidth) {
+  Line entry = {{" " + Fit(DayOfMonthText(texts, day.date), dateWidth, "", Align::kRight) + "  ",
+                 Role::kHint}};
+  Append(entry, NamesLine(day.annotation, texts.language));
   return entry;
 }
 
-Line dayOfYearEntry(const NamedDay& day, const Texts& texts) {
-  const std::string number = fit(std::to_string(day.date.day), 4, "", Align::Right);
-  const std::string weekday = fit(texts.weekdays[dayOfWeek(day.date)], 4, "");
-  Line entry = {{number + " " + weekday + "  ", Role::Plain}};
-  append(entry, namesLine(day.annotation, texts.language));
+Line DayOfYearEntry(const NamedDay& day, const Texts& texts) {
+  const std::string number = Fit(std::to_string(day.date.day), 4, "", Align::kRight);
+  const std::string weekday = Fit(Weekday(texts, DayOfWeek(day.date)), 4, "");
+  Line entry = {{number + " " + weekday + "  ", Role::kPlain}};
+  Append(entry, NamesLine(day.annotation, texts.language));
   return entry;
 }
 
 }  // namespace
 
-std::vector<NamedDay> namedDays(const std::vector<CivilDate>& days, Annotator& annotator) {
+std::vector<NamedDay> NamedDays(const std::vector<CivilDate>& days, Annotator& annotator) {
   std::vector<NamedDay> named;
   for (const CivilDate date : days) {
-    const Annotation annotation = annotator.annotate(date);
-    if (annotation.hasName()) {
+    const Annotation annotation = annotator.Annotate(date);
+    if (annotation.HasName()) {
       named.push_back({date, annotation});
     }
   }
   return named;
 }
 
-std::vector<NamedDay> namedDaysOfYear(int year, Annotator& annotator) {
-  std::vector<CivilDate> days(static_cast<std::size_t>(daysInYear(year)));
-  int number = dayNumber({year, 1, 1});
+std::vector<NamedDay> NamedDaysOfYear(int year, Annotator& annotator) {
+  std::vector<CivilDate> days(static_cast<std::size_t>(DaysInYear(year)));
+  int number = DayNumber({year, 1, 1});
   for (CivilDate& day : days) {
-    day = fromDayNumber(number++);
+    day = FromDayNumber(number++);
   }
-  return namedDays(days, annotator);
+  return NamedDays(days, annotator);
 }
 
-Line namesLine(const Annotation& annotation, TextLanguage language) {
+Line NamesLine(const Annotation& annotation, TextLanguage language) {
   Line line;
-  for (const DayName& name : namesOf(annotation)) {
+  for (const DayName& name : NamesOf(annotation)) {
     if (!line.empty()) {
-      line.push_back({", ", Role::Plain});
+      line.push_back({", ", Role::kPlain});
     }
-    line.push_back({fullName(name, language), roleOf(name.kind)});
+    line.push_back({FullName(name, language), RoleOf(name.kind)});
   }
   return line;
 }
 
-std::vector<Line> legendLines(const std::vector<NamedDay>& days, const Texts& texts, int width) {
+std::vector<Line> LegendLines(const std::vector<NamedDay>& days, const Texts& texts, int width) {
   int dateWidth = 0;
   for (const NamedDay& day : days) {
-    dateWidth = std::max(dateWidth, displayWidth(dayOfMonthText(texts, day.date)));
+    dateWidth = std::max(dateWidth, DisplayWidth(DayOfMonthText(texts, day.date)));
   }
   std::vector<Line> entries;
   int entryWidth = 1;
   for (const NamedDay& day : days) {
-    entries.push_back(legendEntry(day, texts, dateWidth));
-    entryWidth = std::max(entryWidth, widthOf(entries.back()));
+    entries.push_back(LegendEntry(day, texts, dateWidth));
+    entryWidth = std::max(entryWidth, WidthOf(entries.back()));
   }
 
   // The days run down the columns.
@@ -94,14 +94,14 @@ std::vector<Line> legendLines(const std::vector<NamedDay>& days, const Texts& te
     Line& line = lines[index % rows];
     if (index >= rows) {
       const int column = static_cast<int>(index / rows) * (entryWidth + kGap);
-      line.push_back({repeat(" ", column - widthOf(line)), Role::Plain});
+      line.push_back({Repeat(" ", column - WidthOf(line)), Role::kPlain});
     }
-    append(line, entries[index]);
+    Append(line, entries[index]);
   }
   return lines;
 }
 
-std::vector<Line> yearLines(int year, const std::vector<NamedDay>& days, const Texts& texts) {
+std::vector<Line> YearLines(int year, const std::vector<NamedDay>& days, const Texts& texts) {
   std::vector<Line> lines;
   int month = 0;
   for (const NamedDay& day : days) {
@@ -110,39 +110,39 @@ std::vector<Line> yearLines(int year, const std::vector<NamedDay>& days, const T
       if (!lines.empty()) {
         lines.emplace_back();
       }
-      lines.push_back({{monthsText(texts, {year, month, 1}, {year, month, 1}), Role::Title}});
+      lines.push_back({{MonthsText(texts, {year, month, 1}, {year, month, 1}), Role::kTitle}});
     }
-    lines.push_back(dayOfYearEntry(day, texts));
+    lines.push_back(DayOfYearEntry(day, texts));
   }
   return lines;
 }
 
-std::vector<Line> dayLines(const DayReport& report, const Texts& texts) {
+std::vector<Line> DayLines(const DayReport& report, const Texts& texts) {
   Annotation terms;
   terms.solarTerm = report.annotation.solarTerm;
   Annotation festivals = report.annotation;
   festivals.solarTerm = eSekkiNone;
 
   const std::pair<const char*, Line> kRows[] = {
-      {texts.fromToday, {{fromTodayText(texts, report.daysFromToday())}}},
+      {texts.fromToday, {{FromTodayText(texts, report.DaysFromToday())}}},
       {texts.week, {{std::to_string(report.weekNumber)}}},
-      {texts.dayOfYear, {{dayOfYearText(texts, report.date)}}},
-      {texts.lunarDateLabel, {{lunarDateText(texts, report.annotation.lunar)}}},
-      {texts.solarTerm, namesLine(terms, texts.language)},
-      {texts.festivals, namesLine(festivals, texts.language)},
+      {texts.dayOfYear, {{DayOfYearText(texts, report.date)}}},
+      {texts.lunarDateLabel, {{LunarDateText(texts, report.annotation.lunar)}}},
+      {texts.solarTerm, NamesLine(terms, texts.language)},
+      {texts.festivals, NamesLine(festivals, texts.language)},
   };
   int labelWidth = 0;
   for (const auto& [label, value] : kRows) {
-    labelWidth = std::max(labelWidth, displayWidth(label));
+    labelWidth = std::max(labelWidth, DisplayWidth(label));
   }
 
-  std::vector<Line> lines = {{{fullDateText(texts, report.date), Role::Title}}};
+  std::vector<Line> lines = {{{FullDateText(texts, report.date), Role::kTitle}}};
   for (const auto& [label, value] : kRows) {
-    Line line = {{"  " + fit(label, labelWidth, "") + "  ", Role::Hint}};
-    append(line, value.empty() ? Line{{"-"}} : value);
+    Line line = {{"  " + Fit(label, labelWidth, "") + "  ", Role::kHint}};
+    Append(line, value.empty() ? Line{{"-"}} : value);
     lines.push_back(line);
   }
   return lines;
 }
 
-}  // namespace viewer
+}  // namespace almara::viewer

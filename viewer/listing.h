@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 // Days with their names in full, as lines of text: under a board, of a year, and of one day.
-#pragma once
+#ifndef ALMARA_VIEWER_LISTING_H_
+#define ALMARA_VIEWER_LISTING_H_
 
 #include <vector>
 
 #include "annotations.h"
-#include "board.h"
+#include "board_snapshot.h"
 #include "styled_text.h"
 #include "texts.h"
 
-namespace viewer {
+namespace almara::viewer {
 
 struct NamedDay {
   CivilDate date;
@@ -17,17 +18,17 @@ struct NamedDay {
 };
 
 // Of the days those that have a festival or a solar term.
-std::vector<NamedDay> namedDays(const std::vector<CivilDate>& days, Annotator& annotator);
-std::vector<NamedDay> namedDaysOfYear(int year, Annotator& annotator);
+std::vector<NamedDay> NamedDays(const std::vector<CivilDate>& days, Annotator& annotator);
+std::vector<NamedDay> NamedDaysOfYear(int year, Annotator& annotator);
 
 // The names of a day, set apart by commas.
-Line namesLine(const Annotation& annotation, TextLanguage language);
+Line NamesLine(const Annotation& annotation, TextLanguage language);
 
 // A line for each day, in as many columns as the width allows.
-std::vector<Line> legendLines(const std::vector<NamedDay>& days, const Texts& texts, int width);
+std::vector<Line> LegendLines(const std::vector<NamedDay>& days, const Texts& texts, int width);
 
 // The days of a year under the names of their months.
-std::vector<Line> yearLines(int year, const std::vector<NamedDay>& days, const Texts& texts);
+std::vector<Line> YearLines(int year, const std::vector<NamedDay>& days, const Texts& texts);
 
 // What is known of one day.
 struct DayReport {
@@ -36,8 +37,10 @@ struct DayReport {
   int weekNumber = 0;
   Annotation annotation;
 
-  int daysFromToday() const { return dayNumber(date) - dayNumber(dateOf(today)); }
+  int DaysFromToday() const { return DayNumber(date) - DayNumber(DateOf(today)); }
 };
-std::vector<Line> dayLines(const DayReport& report, const Texts& texts);
+std::vector<Line> DayLines(const DayReport& report, const Texts& texts);
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_LISTING_H_

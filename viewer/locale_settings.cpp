@@ -9,11 +9,11 @@
 #include <cstdlib>
 #include <initializer_list>
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
 // The first variable of the list that is set and not empty, as POSIX has it.
-std::string firstSet(std::initializer_list<const char*> variables) {
+std::string FirstSet(std::initializer_list<const char*> variables) {
   for (const char* variable : variables) {
     const char* value = std::getenv(variable);
     if (value != nullptr && *value != '\0') {
@@ -23,29 +23,29 @@ std::string firstSet(std::initializer_list<const char*> variables) {
   return {};
 }
 
-bool namesUtf8(std::string localeName) {
+bool NamesUtf8(std::string localeName) {
   std::transform(localeName.begin(), localeName.end(), localeName.begin(),
                  [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
   return localeName.find("utf-8") != std::string::npos ||
          localeName.find("utf8") != std::string::npos;
 }
 
-bool localeIsUtf8() { return std::string(nl_langinfo(CODESET)) == "UTF-8"; }
+bool LocaleIsUtf8() { return std::string(nl_langinfo(CODESET)) == "UTF-8"; }
 
 }  // namespace
 
-LocaleSettings useLocale() {
+LocaleSettings UseLocale() {
   if (std::setlocale(LC_ALL, "") == nullptr) {
     // The user's locale is not installed here; a terminal that is said to be UTF-8 still is.
     std::setlocale(LC_ALL, "C");
-    if (namesUtf8(firstSet({"LC_ALL", "LC_CTYPE", "LANG"}))) {
+    if (NamesUtf8(FirstSet({"LC_ALL", "LC_CTYPE", "LANG"}))) {
       std::setlocale(LC_CTYPE, "C.UTF-8");
     }
   }
-  return {languageOfLocale(firstSet({"LC_ALL", "LC_TIME", "LANG"})), localeIsUtf8()};
+  return {LanguageOfLocale(FirstSet({"LC_ALL", "LC_TIME", "LANG"})), LocaleIsUtf8()};
 }
 
-ELanguage languageOfLocale(const std::string& name) {
+ELanguage LanguageOfLocale(const std::string& name) {
   struct Rule {
     const char* prefix;
     ELanguage language;
@@ -67,4 +67,4 @@ ELanguage languageOfLocale(const std::string& name) {
   return eLanguageEng;
 }
 
-}  // namespace viewer
+}  // namespace almara::viewer

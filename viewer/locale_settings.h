@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 // What the user's locale says about region and terminal.
-#pragma once
+#ifndef ALMARA_VIEWER_LOCALE_SETTINGS_H_
+#define ALMARA_VIEWER_LOCALE_SETTINGS_H_
 
 #include <almara/almara_types.h>
 
 #include <string>
 
-namespace viewer {
+namespace almara::viewer {
 
 struct LocaleSettings {
   ELanguage language = eLanguageEng;
@@ -14,9 +15,11 @@ struct LocaleSettings {
 };
 
 // Activates the environment's locale for character widths and the screen, and reads it.
-LocaleSettings useLocale();
+LocaleSettings UseLocale();
 
 // The region that a locale name such as "zh_TW.UTF-8" stands for; eLanguageEng for any other.
-ELanguage languageOfLocale(const std::string& name);
+ELanguage LanguageOfLocale(const std::string& name);
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_LOCALE_SETTINGS_H_

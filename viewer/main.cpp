@@ -2,20 +2,21 @@
 // almara-board: the terminal calendar.
 #include <algorithm>
 #include <exception>
+#include <stdexcept>
 
 #include "annotations.h"
+#include "board_host.h"
 #include "board_painter.h"
-#include "engine.h"
+#include "command_line.h"
+#include "error_report.h"
 #include "json_output.h"
 #include "listing.h"
 #include "locale_settings.h"
-#include "options.h"
 #include "output.h"
 #include "tui.h"
 
+namespace almara::viewer {
 namespace {
-
-using namespace viewer;
 
 constexpr int kWidestOutput = 80;
 
@@ -23,140 +24,157 @@ constexpr int kWidestOutput = 80;
 class Program {
  public:
   Program(const Options& options, bool utf8, Output& output)
-      : options_(options),
-        utf8_(utf8),
-        output_(output),
-        texts_(textsFor(options.board.language, utf8)),
-        annotator_(options.board.language) {}
+      : m_options(options),
+        m_utf8(utf8),
+        m_output(output),
+        m_texts(TextsFor(options.board.language, utf8)),
+        m_annotator(options.board.language) {}
 
-  int run() {
-    startEngine(options_.board);
-    switch (options_.task) {
-      case Task::ShowBoard:
-        showBoard();
+  int Run() {
+    StartEngine(m_options.board);
+    CheckOffsets();
+    switch (m_options.task) {
+      case Task::kShowBoard:
+        ShowBoard();
         break;
-      case Task::ShowDay:
-        showDay();
+      case Task::kShowDay:
+        ShowDay();
         break;
-      case Task::ListYear:
-        listYear();
+      case Task::kListYear:
+        ListYear();
         break;
-      case Task::FullScreen:
-        navigate();
-        return runTui(options_, utf8_, output_);
-    }
-    if (!output_.finish()) {
-      reportError("could not write to the standard output");
-      return kExitFailure;
+      case Task::kFullScreen:
+        Navigate();
+        return RunTui(m_options, m_utf8, m_output);
+      case Task::kPrintText:
+        m_output.Write(m_options.text);
+        break;
     }
     return 0;
   }
 
  private:
-  void navigate() const {
-    if (options_.date) {
-      showDate(options_.board, *options_.date);
-    }
-    for (const Step& step : options_.steps) {
-      takeStep(step);
+  void CheckOffsets() const {
+    for (const Step& step : m_options.steps) {
+      if (step.kind == Step::Kind::kOffset &&
+          !OffsetStaysInRange(m_options.board, ReadToday(), step.offset)) {
+        throw UsageError("--offset: " + std::to_string(step.offset) +
+                         " leads outside the years 1900 to 2099");
+      }
     }
   }
 
-  void showBoard() {
-    navigate();
-    const Board board = readBoard();
-    if (options_.json) {
-      output_.write(boardJson(board, options_.board, annotator_, !utf8_));
+  void Navigate() const {
+    if (m_options.date) {
+      ShowDate(m_options.board, *m_options.date);
+    }
+    for (const Step& step : m_options.steps) {
+      TakeStep(step);
+    }
+  }
+
+  void ShowBoard() {
+    Navigate();
+    const BoardSnapshot board = ReadBoard(m_options.board);
+    if (m_options.json) {
+      m_output.Write(BoardJson(board, m_annotator, !m_utf8));
       return;
     }
-    const PaintedBoard painted = paintBoard(board, paintSettings());
+    const PaintedBoard painted = PaintBoard(board, SettingsToPaint());
     std::vector<Line> lines = {painted.title, painted.headings};
     for (const auto& row : painted.rows) {
       lines.insert(lines.end(), row.begin(), row.end());
     }
-    const std::vector<Line> legend = legendOf(board);
+    const std::vector<Line> legend = LegendOf(board);
     if (!legend.empty()) {
       lines.emplace_back();
       lines.insert(lines.end(), legend.begin(), legend.end());
     }
-    print(lines);
+    Print(lines);
   }
 
-  PaintSettings paintSettings() {
+  PaintSettings SettingsToPaint() {
     PaintSettings settings;
-    settings.width = width();
-    settings.weekNumbers = options_.weekNumbers;
-    settings.texts = &texts_;
-    settings.glyphs = &glyphsFor(utf8_);
-    settings.annotator = options_.annotations ? &annotator_ : nullptr;
+    settings.width = Width();
+    settings.weekNumbers = m_options.weekNumbers;
+    settings.texts = &m_texts;
+    settings.glyphs = &GlyphsFor(m_utf8);
+    settings.annotator = m_options.annotations ? &m_annotator : nullptr;
     return settings;
   }
 
-  std::vector<Line> legendOf(const Board& board) {
-    if (!options_.annotations) {
+  std::vector<Line> LegendOf(const BoardSnapshot& board) {
+    if (!m_options.annotations) {
       return {};
     }
-    return legendLines(namedDays(shownDays(board), annotator_), texts_, width());
+    return LegendLines(NamedDays(ShownDays(board), m_annotator), m_texts, Width());
   }
 
-  void showDay() {
-    BoardOptions month = options_.board;
+  void ShowDay() {
+    BoardOptions month = m_options.board;
     month.mode = eDispMonthWholeMonth;
     month.hideBreakDays = false;
-    applyOptions(month);
-    showDate(month, options_.day);
-    const Board board = readBoard();
-    const tagCalendarCell* cell = findDay(board, options_.day);
-    const DayReport report = {options_.day, board.today, cell != nullptr ? cell->weekNumber : -1,
-                              annotator_.annotate(options_.day)};
-    if (options_.json) {
-      output_.write(dayJson(report, options_.board.language, !utf8_));
+    ApplyOptions(month);
+    ShowDate(month, m_options.day);
+    const BoardSnapshot board = ReadBoard(month);
+    const tagCalendarCell* cell = FindDay(board, m_options.day);
+    const DayReport report = {m_options.day, board.today, cell != nullptr ? cell->weekNumber : -1,
+                              m_annotator.Annotate(m_options.day)};
+    if (m_options.json) {
+      m_output.Write(DayJson(report, m_options.board.language, !m_utf8));
     } else {
-      print(dayLines(report, texts_));
+      Print(DayLines(report, m_texts));
     }
   }
 
-  void listYear() {
-    const int year = options_.year.value_or(readToday().year);
-    const std::vector<NamedDay> days = namedDaysOfYear(year, annotator_);
-    if (options_.json) {
-      output_.write(yearJson(year, days, options_.board.language, !utf8_));
+  void ListYear() {
+    const int year = m_options.year.value_or(ReadToday().year);
+    const std::vector<NamedDay> days = NamedDaysOfYear(year, m_annotator);
+    if (m_options.json) {
+      m_output.Write(YearJson(year, days, m_options.board.language, !m_utf8));
     } else {
-      print(yearLines(year, days, texts_));
+      Print(YearLines(year, days, m_texts));
     }
   }
 
-  int width() const { return std::min(output_.columns(), kWidestOutput); }
+  int Width() const { return std::min(m_output.Columns(), kWidestOutput); }
 
-  void print(const std::vector<Line>& lines) {
-    output_.write(lines, useColor(options_.color, output_));
+  void Print(const std::vector<Line>& lines) {
+    m_output.Write(lines, UseColor(m_options.color, m_output));
   }
 
-  const Options& options_;
-  bool utf8_;
-  Output& output_;
-  const Texts& texts_;
-  Annotator annotator_;
+  const Options& m_options;
+  bool m_utf8;
+  Output& m_output;
+  const Texts m_texts;
+  Annotator m_annotator;
 };
 
-int run(int argc, char** argv) {
-  const LocaleSettings locale = useLocale();
-  Options options;
-  options.board.language = locale.language;
-  if (const std::optional<int> exitCode = parseOptions(argc, argv, options)) {
-    return *exitCode;
-  }
+int Run(int argc, char** argv) {
+  const LocaleSettings locale = UseLocale();
+  Options defaults;
+  defaults.board.language = locale.language;
+  const Options options = ParseCommandLine(argc, argv, defaults);
   Output output(options.dump);
-  return Program(options, locale.utf8, output).run();
+  const int exitCode = Program(options, locale.utf8, output).Run();
+  if (!output.Finish()) {
+    throw std::runtime_error("could not write to the standard output");
+  }
+  return exitCode;
 }
 
 }  // namespace
+}  // namespace almara::viewer
 
 int main(int argc, char** argv) {
+  using namespace almara::viewer;
   try {
-    return run(argc, argv);
+    return Run(argc, argv);
+  } catch (const UsageError& error) {
+    ReportError(error.what());
+    return kExitUsage;
   } catch (const std::exception& error) {
-    reportError(error.what());
+    ReportError(error.what());
     return kExitFailure;
   }
 }

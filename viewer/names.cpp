@@ -6,7 +6,7 @@
 #include <iterator>
 #include <string_view>
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
 // A row of names: the code, English, and the other languages in the order of TextLanguage. A name
@@ -127,7 +127,7 @@ constexpr Name kLunarFestivals[] = {
 // clang-format on
 
 template <typename Table>
-const Name* find(const Table& table, std::int32_t code) {
+const Name* Find(const Table& table, std::int32_t code) {
   const auto found = std::find_if(std::begin(table), std::end(table),
                                   [code](const Name& name) { return name.code == code; });
   return found == std::end(table) ? nullptr : &*found;
@@ -135,55 +135,55 @@ const Name* find(const Table& table, std::int32_t code) {
 
 // The entry in the language, brief form and all; empty for a code that is not in the table.
 template <typename Table>
-std::string_view entryIn(const Table& table, std::int32_t code, TextLanguage language) {
-  const Name* name = find(table, code);
+std::string_view EntryIn(const Table& table, std::int32_t code, TextLanguage language) {
+  const Name* name = Find(table, code);
   if (name == nullptr) {
     return {};
   }
-  const std::string_view own = language == TextLanguage::English
+  const std::string_view own = language == TextLanguage::kEnglish
                                    ? std::string_view{}
                                    : name->own[static_cast<std::size_t>(language) - 1];
   return own.empty() ? name->english : own;
 }
 
 template <typename Table>
-std::string nameIn(const Table& table, std::int32_t code, TextLanguage language) {
-  const std::string_view entry = entryIn(table, code, language);
+std::string NameIn(const Table& table, std::int32_t code, TextLanguage language) {
+  const std::string_view entry = EntryIn(table, code, language);
   return entry.empty() ? std::to_string(code) : std::string(entry.substr(0, entry.find('|')));
 }
 
 template <typename Table>
-std::string briefIn(const Table& table, std::int32_t code, TextLanguage language) {
-  const std::string_view entry = entryIn(table, code, language);
+std::string BriefIn(const Table& table, std::int32_t code, TextLanguage language) {
+  const std::string_view entry = EntryIn(table, code, language);
   const std::size_t bar = entry.find('|');
-  return bar == std::string_view::npos ? nameIn(table, code, language)
+  return bar == std::string_view::npos ? NameIn(table, code, language)
                                        : std::string(entry.substr(bar + 1));
 }
 
 }  // namespace
 
-std::string solarTermName(ESolarKyureki24 term, TextLanguage language) {
-  return nameIn(kSolarTerms, term, language);
+std::string SolarTermName(ESolarKyureki24 term, TextLanguage language) {
+  return NameIn(kSolarTerms, term, language);
 }
 
-std::string solarFestivalName(EFestivalSolar festival, TextLanguage language) {
-  return nameIn(kSolarFestivals, festival, language);
+std::string SolarFestivalName(EFestivalSolar festival, TextLanguage language) {
+  return NameIn(kSolarFestivals, festival, language);
 }
 
-std::string lunarFestivalName(EFestivalLunar festival, TextLanguage language) {
-  return nameIn(kLunarFestivals, festival, language);
+std::string LunarFestivalName(EFestivalLunar festival, TextLanguage language) {
+  return NameIn(kLunarFestivals, festival, language);
 }
 
-std::string solarTermBrief(ESolarKyureki24 term, TextLanguage language) {
-  return briefIn(kSolarTerms, term, language);
+std::string SolarTermBrief(ESolarKyureki24 term, TextLanguage language) {
+  return BriefIn(kSolarTerms, term, language);
 }
 
-std::string solarFestivalBrief(EFestivalSolar festival, TextLanguage language) {
-  return briefIn(kSolarFestivals, festival, language);
+std::string SolarFestivalBrief(EFestivalSolar festival, TextLanguage language) {
+  return BriefIn(kSolarFestivals, festival, language);
 }
 
-std::string lunarFestivalBrief(EFestivalLunar festival, TextLanguage language) {
-  return briefIn(kLunarFestivals, festival, language);
+std::string LunarFestivalBrief(EFestivalLunar festival, TextLanguage language) {
+  return BriefIn(kLunarFestivals, festival, language);
 }
 
-}  // namespace viewer
+}  // namespace almara::viewer

@@ -4,121 +4,122 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "engine.h"
+#include "board_host.h"
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
-bool pagesByMonth(EDispMonth mode) {
+bool PagesByMonth(EDispMonth mode) {
   return mode == eDispMonthRollingTail || mode == eDispMonthWholeMonth;
 }
 
 // Whether the day would follow the shown ones: on a board of few rows a month interval can take the
 // place of the day that the board was built for.
-bool monthIntervalHides(const Board& board, CivilDate date) {
-  const std::vector<CivilDate> days = shownDays(board);
+bool MonthIntervalHides(const BoardSnapshot& board, CivilDate date) {
+  const std::vector<CivilDate> days = ShownDays(board);
   return !days.empty() && days.back() < date;
 }
 
 }  // namespace
 
-Navigator::Navigator(const BoardOptions& options) : options_(options) {
-  read();
-  selectNearest(dateOf(board_.contentDate));
+Navigator::Navigator(const BoardOptions& options) : m_options(options) {
+  Read();
+  SelectNearest(DateOf(m_board.contentDate));
 }
 
-void Navigator::moveDays(int direction) {
-  const std::vector<CivilDate> days = shownDays(board_);
-  const auto at = std::find(days.begin(), days.end(), selected_);
+void Navigator::MoveDays(int direction) {
+  const std::vector<CivilDate> days = ShownDays(m_board);
+  const auto at = std::find(days.begin(), days.end(), m_selected);
   if (at == days.end()) {
     return;
   }
   if (direction > 0 ? at + 1 != days.end() : at != days.begin()) {
-    selected_ = *(at + direction);
+    m_selected = *(at + direction);
     return;
   }
-  const CivilDate target = addDays(selected_, direction);
-  if (turnPage(direction)) {
-    selectNearest(target);
+  const CivilDate target = AddDays(m_selected, direction);
+  if (TurnPage(direction)) {
+    SelectNearest(target);
   }
 }
 
-void Navigator::moveWeeks(int direction) {
-  const CivilDate target = addDays(selected_, 7 * direction);
-  if (findDay(board_, target) != nullptr || turnPage(direction)) {
-    selectNearest(target);
+void Navigator::MoveWeeks(int direction) {
+  const CivilDate target = AddDays(m_selected, 7 * direction);
+  if (FindDay(m_board, target) != nullptr || TurnPage(direction)) {
+    SelectNearest(target);
   }
 }
 
-bool Navigator::page(int direction) {
-  const std::vector<CivilDate> before = shownDays(board_);
-  if (!turnPage(direction)) {
+bool Navigator::Page(int direction) {
+  const std::vector<CivilDate> before = ShownDays(m_board);
+  if (!TurnPage(direction)) {
     return false;
   }
-  const std::vector<CivilDate> after = shownDays(board_);
-  if (pagesByMonth(options_.mode)) {
-    selectNearest(addMonths(selected_, direction));
+  const std::vector<CivilDate> after = ShownDays(m_board);
+  if (PagesByMonth(m_options.mode)) {
+    SelectNearest(AddMonths(m_selected, direction));
   } else if (!before.empty() && !after.empty()) {
-    selectNearest(addDays(selected_, dayNumber(after.front()) - dayNumber(before.front())));
+    SelectNearest(AddDays(m_selected, DayNumber(after.front()) - DayNumber(before.front())));
   }
   return true;
 }
 
-void Navigator::goToToday() { goTo(dateOf(board_.today)); }
+void Navigator::GoToToday() { GoTo(DateOf(m_board.today)); }
 
-void Navigator::goTo(CivilDate date) {
-  selected_ = date;
-  rebuild();
+void Navigator::GoTo(CivilDate date) {
+  m_selected = date;
+  Rebuild();
 }
 
-void Navigator::nextMode() {
-  options_.mode = options_.mode == eDispMonthDayStrip ? eDispMonthRollingWeeks : options_.mode + 1;
-  rebuild();
+void Navigator::NextMode() {
+  m_options.mode =
+      m_options.mode == eDispMonthDayStrip ? eDispMonthRollingWeeks : m_options.mode + 1;
+  Rebuild();
 }
 
-void Navigator::toggleBreakDays() {
-  options_.hideBreakDays = !options_.hideBreakDays;
-  rebuild();
+void Navigator::ToggleBreakDays() {
+  m_options.hideBreakDays = !m_options.hideBreakDays;
+  Rebuild();
 }
 
-void Navigator::toggleIntervals() {
-  options_.monthIntervals = !options_.monthIntervals;
-  rebuild();
+void Navigator::ToggleIntervals() {
+  m_options.monthIntervals = !m_options.monthIntervals;
+  Rebuild();
 }
 
-bool Navigator::refreshToday() {
-  if (readToday() == dateOf(board_.today)) {
+bool Navigator::RefreshToday() {
+  if (ReadToday() == DateOf(m_board.today)) {
     return false;
   }
-  rebuild();
+  Rebuild();
   return true;
 }
 
-void Navigator::read() { board_ = readBoard(); }
+void Navigator::Read() { m_board = ReadBoard(m_options); }
 
-void Navigator::rebuild() {
-  applyOptions(options_);
-  showDate(options_, selected_);
-  read();
-  if (findDay(board_, selected_) == nullptr && monthIntervalHides(board_, selected_)) {
-    turnPage(1);
+void Navigator::Rebuild() {
+  ApplyOptions(m_options);
+  ShowDate(m_options, m_selected);
+  Read();
+  if (FindDay(m_board, m_selected) == nullptr && MonthIntervalHides(m_board, m_selected)) {
+    TurnPage(1);
   }
-  selectNearest(selected_);
+  SelectNearest(m_selected);
 }
 
-bool Navigator::turnPage(int direction) {
-  const std::vector<CivilDate> before = shownDays(board_);
-  takeStep({direction > 0 ? Step::Kind::Next : Step::Kind::Previous, 0});
-  read();
-  return shownDays(board_) != before;
+bool Navigator::TurnPage(int direction) {
+  const std::vector<CivilDate> before = ShownDays(m_board);
+  TakeStep({direction > 0 ? Step::Kind::kNext : Step::Kind::kPrevious, 0});
+  Read();
+  return ShownDays(m_board) != before;
 }
 
-void Navigator::selectNearest(CivilDate date) {
-  const std::vector<CivilDate> days = shownDays(board_);
+void Navigator::SelectNearest(CivilDate date) {
+  const std::vector<CivilDate> days = ShownDays(m_board);
   const auto nearest = std::min_element(days.begin(), days.end(), [date](CivilDate a, CivilDate b) {
-    return std::abs(dayNumber(a) - dayNumber(date)) < std::abs(dayNumber(b) - dayNumber(date));
+    return std::abs(DayNumber(a) - DayNumber(date)) < std::abs(DayNumber(b) - DayNumber(date));
   });
-  selected_ = nearest == days.end() ? date : *nearest;
+  m_selected = nearest == days.end() ? date : *nearest;
 }
 
-}  // namespace viewer
+}  // namespace almara::viewer

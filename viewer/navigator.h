@@ -1,50 +1,53 @@
 // SPDX-License-Identifier: MIT
 // The board of the full screen and the day selected on it: every key's effect, without the screen.
-#pragma once
+#ifndef ALMARA_VIEWER_NAVIGATOR_H_
+#define ALMARA_VIEWER_NAVIGATOR_H_
 
-#include "board.h"
 #include "board_options.h"
+#include "board_snapshot.h"
 #include "civil_date.h"
 
-namespace viewer {
+namespace almara::viewer {
 
 class Navigator {
  public:
   // Takes over the board that was built last and selects the date it was built for.
   explicit Navigator(const BoardOptions& options);
 
-  const Board& board() const { return board_; }
-  const BoardOptions& options() const { return options_; }
-  CivilDate selected() const { return selected_; }
+  const BoardSnapshot& Board() const { return m_board; }
+  const BoardOptions& Options() const { return m_options; }
+  CivilDate Selected() const { return m_selected; }
 
   // To the day before or behind among the shown ones; off the board it pages.
-  void moveDays(int direction);
+  void MoveDays(int direction);
 
   // To the same day of another week; off the board it pages.
-  void moveWeeks(int direction);
+  void MoveWeeks(int direction);
 
   // Pages and keeps the selection's place. False at the end of the calendar.
-  bool page(int direction);
+  bool Page(int direction);
 
-  void goToToday();
-  void goTo(CivilDate date);
+  void GoToToday();
+  void GoTo(CivilDate date);
 
-  void nextMode();
-  void toggleBreakDays();
-  void toggleIntervals();
+  void NextMode();
+  void ToggleBreakDays();
+  void ToggleIntervals();
 
   // Follows the clock past midnight. True if the board was built anew.
-  bool refreshToday();
+  bool RefreshToday();
 
  private:
-  void read();
-  void rebuild();
-  bool turnPage(int direction);
-  void selectNearest(CivilDate date);
+  void Read();
+  void Rebuild();
+  bool TurnPage(int direction);
+  void SelectNearest(CivilDate date);
 
-  BoardOptions options_;
-  Board board_;
-  CivilDate selected_;
+  BoardOptions m_options;
+  BoardSnapshot m_board;
+  CivilDate m_selected;
 };
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_NAVIGATOR_H_

@@ -1,21 +1,22 @@
 // SPDX-License-Identifier: MIT
-// The command line.
-#pragma once
+// What the user asked the program for.
+#ifndef ALMARA_VIEWER_OPTIONS_H_
+#define ALMARA_VIEWER_OPTIONS_H_
 
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "board_options.h"
 #include "civil_date.h"
-#include "engine.h"
-#include "output.h"
+#include "styled_text.h"
 
-namespace viewer {
+namespace almara::viewer {
 
-enum class Task { ShowBoard, ShowDay, ListYear, FullScreen };
+enum class Task { kShowBoard, kShowDay, kListYear, kFullScreen, kPrintText };
 
 struct Options {
-  Task task = Task::ShowBoard;
+  Task task = Task::kShowBoard;
   BoardOptions board;
   std::optional<CivilDate> date;
   std::vector<Step> steps;  // in the order given
@@ -23,19 +24,12 @@ struct Options {
   bool annotations = true;
   CivilDate day;            // for Task::ShowDay
   std::optional<int> year;  // for Task::ListYear; none is this year
+  std::string text;         // for Task::kPrintText
   bool json = false;
   bool dump = false;
-  ColorMode color = ColorMode::Auto;
+  ColorMode color = ColorMode::kAuto;
 };
 
-constexpr int kExitFailure = 1;
-constexpr int kExitUsage = 2;
+}  // namespace almara::viewer
 
-// Fills the options, whose language is the default to begin with. Returns the exit code if there is
-// nothing more to do: the help was printed, or one line on the standard error says what is wrong.
-std::optional<int> parseOptions(int argc, char** argv, Options& options);
-
-// One line "almara-board: <message>" on the standard error.
-void reportError(const std::string& message);
-
-}  // namespace viewer
+#endif  // ALMARA_VIEWER_OPTIONS_H_

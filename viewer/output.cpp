@@ -9,52 +9,52 @@
 #include <cstdlib>
 #include <system_error>
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
-[[noreturn]] void fail(const char* what) {
+[[noreturn]] void Fail(const char* what) {
   throw std::system_error(errno, std::generic_category(), what);
 }
 
-void silence(int descriptor) {
+void Silence(int descriptor) {
   const int null = open("/dev/null", O_WRONLY | O_CLOEXEC);
   if (null < 0 || dup2(null, descriptor) < 0) {
-    fail("/dev/null");
+    Fail("/dev/null");
   }
   close(null);
 }
 
 // Select Graphic Rendition codes; empty for text in the terminal's own colours.
-const char* colorCodes(Role role) {
+const char* ColorCodes(Role role) {
   switch (role) {
-    case Role::Title:
-    case Role::Heading:
+    case Role::kTitle:
+    case Role::kHeading:
       return "1";
-    case Role::BreakHeading:
+    case Role::kBreakHeading:
       return "1;31";
-    case Role::BreakDay:
+    case Role::kBreakDay:
       return "31";
-    case Role::Today:
+    case Role::kToday:
       return "1;7";
-    case Role::MonthTitle:
+    case Role::kMonthTitle:
       return "36";
-    case Role::Festival:
+    case Role::kFestival:
       return "35";
-    case Role::SolarTerm:
+    case Role::kSolarTerm:
       return "32";
-    case Role::WeekNumber:
-    case Role::LunarDay:
-    case Role::Hint:
+    case Role::kWeekNumber:
+    case Role::kLunarDay:
+    case Role::kHint:
       return "2";
-    case Role::Plain:
-    case Role::Day:
+    case Role::kPlain:
+    case Role::kDay:
       break;
   }
   return "";
 }
 
-std::string withColor(const Piece& piece) {
-  const std::string codes = colorCodes(piece.role);
+std::string WithColor(const Piece& piece) {
+  const std::string codes = ColorCodes(piece.role);
   // The spaces behind a text stay outside, so that today's box is as wide as its text.
   const std::size_t end = piece.text.find_last_not_of(' ') + 1;
   if (codes.empty() || end == 0) {
@@ -69,50 +69,50 @@ Output::Output(bool showDump) {
   std::fflush(stdout);
   const int own = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
   if (own < 0) {
-    fail("standard output");
+    Fail("standard output");
   }
-  file_ = fdopen(own, "w");
-  if (file_ == nullptr) {
-    fail("standard output");
+  m_file = fdopen(own, "w");
+  if (m_file == nullptr) {
+    Fail("standard output");
   }
   if (!showDump) {
-    silence(STDOUT_FILENO);
+    Silence(STDOUT_FILENO);
   }
 }
 
-Output::~Output() { std::fclose(file_); }
+Output::~Output() { std::fclose(m_file); }
 
-bool Output::isTerminal() const { return isatty(fileno(file_)) != 0; }
+bool Output::IsTerminal() const { return isatty(fileno(m_file)) != 0; }
 
-int Output::columns() const {
+int Output::Columns() const {
   winsize size{};
-  if (ioctl(fileno(file_), TIOCGWINSZ, &size) == 0 && size.ws_col > 0) {
+  if (ioctl(fileno(m_file), TIOCGWINSZ, &size) == 0 && size.ws_col > 0) {
     return size.ws_col;
   }
   return 80;
 }
 
-void Output::write(const std::string& text) {
+void Output::Write(const std::string& text) {
   std::fflush(stdout);  // the dump, where it is shown, stands before what follows from it
-  std::fwrite(text.data(), 1, text.size(), file_);
+  std::fwrite(text.data(), 1, text.size(), m_file);
 }
 
-void Output::write(const std::vector<Line>& lines, bool color) {
+void Output::Write(const std::vector<Line>& lines, bool color) {
   for (const Line& line : lines) {
     std::string text;
     for (const Piece& piece : line) {
-      text += color ? withColor(piece) : piece.text;
+      text += color ? WithColor(piece) : piece.text;
     }
     text.erase(text.find_last_not_of(' ') + 1);
-    write(text + "\n");
+    Write(text + "\n");
   }
 }
 
-bool Output::finish() { return std::fflush(file_) == 0 && std::ferror(file_) == 0; }
+bool Output::Finish() { return std::fflush(m_file) == 0 && std::ferror(m_file) == 0; }
 
-bool useColor(ColorMode mode, const Output& output) {
-  if (mode != ColorMode::Auto) {
-    return mode == ColorMode::Always;
+bool UseColor(ColorMode mode, const Output& output) {
+  if (mode != ColorMode::kAuto) {
+    return mode == ColorMode::kAlways;
   }
   const char* noColor = std::getenv("NO_COLOR");
   if (noColor != nullptr && *noColor != '\0') {
@@ -120,7 +120,7 @@ bool useColor(ColorMode mode, const Output& output) {
   }
   const char* term = std::getenv("TERM");
   const bool dumb = term == nullptr || std::string(term) == "dumb";
-  return output.isTerminal() && !dumb;
+  return output.IsTerminal() && !dumb;
 }
 
-}  // namespace viewer
+}  // namespace almara::viewer

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The viewer's way to the standard output.
-#pragma once
+#ifndef ALMARA_VIEWER_OUTPUT_H_
+#define ALMARA_VIEWER_OUTPUT_H_
 
 #include <cstdio>
 #include <string>
@@ -8,9 +9,7 @@
 
 #include "styled_text.h"
 
-namespace viewer {
-
-enum class ColorMode { Auto, Always, Never };
+namespace almara::viewer {
 
 // The engine writes a dump of every board it builds to the standard output. So the viewer takes the
 // real standard output for itself and leaves the null device in its place; whatever the engine
@@ -22,23 +21,25 @@ class Output {
   Output(const Output&) = delete;
   Output& operator=(const Output&) = delete;
 
-  FILE* file() const { return file_; }
-  bool isTerminal() const;
+  FILE* File() const { return m_file; }
+  bool IsTerminal() const;
 
   // Columns of the terminal, or 80 where there is none.
-  int columns() const;
+  int Columns() const;
 
-  void write(const std::string& text);
-  void write(const std::vector<Line>& lines, bool color);
+  void Write(const std::string& text);
+  void Write(const std::vector<Line>& lines, bool color);
 
   // False if something could not be written, for example to a full disk.
-  bool finish();
+  bool Finish();
 
  private:
-  FILE* file_ = nullptr;
+  FILE* m_file = nullptr;
 };
 
 // The option decides, then NO_COLOR, then whether a terminal that can show colours reads it.
-bool useColor(ColorMode mode, const Output& output);
+bool UseColor(ColorMode mode, const Output& output);
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_OUTPUT_H_

@@ -8,7 +8,7 @@
 
 #include "text_layout.h"
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
 constexpr int kEscapeDelayMs = 25;  // an Escape key is not the beginning of a sequence after this
@@ -19,21 +19,21 @@ struct Look {
   attr_t attributes;
 };
 
-const Look& lookOf(Role role) {
+const Look& LookOf(Role role) {
   static constexpr Look kLooks[] = {
-      {Role::Plain, -1, A_NORMAL},
-      {Role::Title, -1, A_BOLD},
-      {Role::Heading, -1, A_BOLD},
-      {Role::BreakHeading, COLOR_RED, A_BOLD},
-      {Role::WeekNumber, -1, A_DIM},
-      {Role::Day, -1, A_NORMAL},
-      {Role::BreakDay, COLOR_RED, A_NORMAL},
-      {Role::Today, COLOR_YELLOW, A_BOLD},
-      {Role::MonthTitle, COLOR_CYAN, A_NORMAL},
-      {Role::Festival, COLOR_MAGENTA, A_NORMAL},
-      {Role::SolarTerm, COLOR_GREEN, A_NORMAL},
-      {Role::LunarDay, -1, A_DIM},
-      {Role::Hint, -1, A_DIM},
+      {Role::kPlain, -1, A_NORMAL},
+      {Role::kTitle, -1, A_BOLD},
+      {Role::kHeading, -1, A_BOLD},
+      {Role::kBreakHeading, COLOR_RED, A_BOLD},
+      {Role::kWeekNumber, -1, A_DIM},
+      {Role::kDay, -1, A_NORMAL},
+      {Role::kBreakDay, COLOR_RED, A_NORMAL},
+      {Role::kToday, COLOR_YELLOW, A_BOLD},
+      {Role::kMonthTitle, COLOR_CYAN, A_NORMAL},
+      {Role::kFestival, COLOR_MAGENTA, A_NORMAL},
+      {Role::kSolarTerm, COLOR_GREEN, A_NORMAL},
+      {Role::kLunarDay, -1, A_DIM},
+      {Role::kHint, -1, A_DIM},
   };
   for (const Look& look : kLooks) {
     if (look.role == role) {
@@ -44,99 +44,100 @@ const Look& lookOf(Role role) {
 }
 
 // Color pair of a color; pair 0 is the terminal's own look.
-short pairOf(short color) { return static_cast<short>(color < 0 ? 0 : color + 1); }
+short PairOf(short color) { return static_cast<short>(color < 0 ? 0 : color + 1); }
 
-void defineColors() {
+void DefineColors() {
   start_color();
   use_default_colors();
   for (short color = COLOR_BLACK; color <= COLOR_WHITE; ++color) {
-    init_pair(pairOf(color), color, -1);
+    init_pair(PairOf(color), color, -1);
   }
 }
 
 }  // namespace
 
-Screen::Screen(const Output& output, bool color) : screen_(newterm(nullptr, output.file(), stdin)) {
-  if (screen_ == nullptr) {
+Screen::Screen(const Output& output, bool color)
+    : m_screen(newterm(nullptr, output.File(), stdin)) {
+  if (m_screen == nullptr) {
     throw std::runtime_error("this terminal cannot show a full screen (is TERM right?)");
   }
-  set_term(screen_);
+  set_term(m_screen);
   cbreak();
   noecho();
   keypad(stdscr, TRUE);
   set_escdelay(kEscapeDelayMs);
   curs_set(0);
-  color_ = color && has_colors();
-  if (color_) {
-    defineColors();
+  m_color = color && has_colors();
+  if (m_color) {
+    DefineColors();
   }
 }
 
 Screen::~Screen() {
   endwin();
-  delscreen(screen_);
+  delscreen(m_screen);
 }
 
-int Screen::width() const { return COLS; }
+int Screen::Width() const { return COLS; }
 
-int Screen::height() const { return LINES; }
+int Screen::Height() const { return LINES; }
 
-void Screen::draw(const std::vector<Line>& lines, const Line& status) {
+void Screen::Draw(const std::vector<Line>& lines, const Line& status) {
   erase();
   for (int row = 0; row < static_cast<int>(lines.size()) && row < LINES - 1; ++row) {
-    drawLine(row, lines[static_cast<std::size_t>(row)]);
+    DrawLine(row, lines[static_cast<std::size_t>(row)]);
   }
-  drawLine(LINES - 1, status);
+  DrawLine(LINES - 1, status);
   refresh();
 }
 
-void Screen::drawLine(int row, const Line& line) const {
+void Screen::DrawLine(int row, const Line& line) const {
   int column = 0;
   for (const Piece& piece : line) {
-    const Look& look = lookOf(piece.role);
+    const Look& look = LookOf(piece.role);
     const attr_t selection = piece.selected ? A_REVERSE : A_NORMAL;
-    const std::string text = shorten(piece.text, COLS - column, "");
-    attr_set(look.attributes | selection, color_ ? pairOf(look.color) : short{0}, nullptr);
+    const std::string text = Shorten(piece.text, COLS - column, "");
+    attr_set(look.attributes | selection, m_color ? PairOf(look.color) : short{0}, nullptr);
     mvaddstr(row, column, text.c_str());
-    column += displayWidth(text);
+    column += DisplayWidth(text);
   }
   attr_set(A_NORMAL, 0, nullptr);
 }
 
-KeyPress Screen::readKey(int milliseconds) {
+KeyPress Screen::ReadKey(int milliseconds) {
   timeout(milliseconds);
   const int code = getch();
   switch (code) {
     case ERR:
-      return {Key::None};
+      return {Key::kNone};
     case KEY_RESIZE:
-      return {Key::Resize};
+      return {Key::kResize};
     case KEY_LEFT:
-      return {Key::Left};
+      return {Key::kLeft};
     case KEY_RIGHT:
-      return {Key::Right};
+      return {Key::kRight};
     case KEY_UP:
-      return {Key::Up};
+      return {Key::kUp};
     case KEY_DOWN:
-      return {Key::Down};
+      return {Key::kDown};
     case KEY_PPAGE:
-      return {Key::PageUp};
+      return {Key::kPageUp};
     case KEY_NPAGE:
-      return {Key::PageDown};
+      return {Key::kPageDown};
     case KEY_ENTER:
     case '\n':
     case '\r':
-      return {Key::Enter};
+      return {Key::kEnter};
     case 27:
-      return {Key::Escape};
+      return {Key::kEscape};
     case KEY_BACKSPACE:
     case '\b':
     case 127:
-      return {Key::Backspace};
+      return {Key::kBackspace};
     default:
-      return code > 0 && code < 127 ? KeyPress{Key::Character, static_cast<char>(code)}
-                                    : KeyPress{Key::None};
+      return code > 0 && code < 127 ? KeyPress{Key::kCharacter, static_cast<char>(code)}
+                                    : KeyPress{Key::kNone};
   }
 }
 
-}  // namespace viewer
+}  // namespace almara::viewer

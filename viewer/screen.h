@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The terminal in full-screen mode.
-#pragma once
+#ifndef ALMARA_VIEWER_SCREEN_H_
+#define ALMARA_VIEWER_SCREEN_H_
 
 #include <string>
 #include <vector>
@@ -11,26 +12,26 @@
 // Opaque types of ncurses, whose header defines macros that no other file should see.
 struct screen;
 
-namespace viewer {
+namespace almara::viewer {
 
 // What a key press means to the calendar.
 enum class Key {
-  None,  // no key within the time
-  Resize,
-  Left,
-  Right,
-  Up,
-  Down,
-  PageUp,
-  PageDown,
-  Enter,
-  Escape,
-  Backspace,
-  Character,
+  kNone,  // no key within the time
+  kResize,
+  kLeft,
+  kRight,
+  kUp,
+  kDown,
+  kPageUp,
+  kPageDown,
+  kEnter,
+  kEscape,
+  kBackspace,
+  kCharacter,
 };
 
 struct KeyPress {
-  Key key = Key::None;
+  Key key = Key::kNone;
   char character = 0;  // for Key::Character
 };
 
@@ -42,20 +43,22 @@ class Screen {
   Screen(const Screen&) = delete;
   Screen& operator=(const Screen&) = delete;
 
-  int width() const;
-  int height() const;
+  int Width() const;
+  int Height() const;
 
   // Shows the lines from the top and the status in the last line; what is too long is cut.
-  void draw(const std::vector<Line>& lines, const Line& status);
+  void Draw(const std::vector<Line>& lines, const Line& status);
 
   // Waits for a key for some time. A signal ends the wait.
-  KeyPress readKey(int milliseconds);
+  KeyPress ReadKey(int milliseconds);
 
  private:
-  void drawLine(int row, const Line& line) const;
+  void DrawLine(int row, const Line& line) const;
 
-  screen* screen_ = nullptr;
-  bool color_ = false;
+  screen* m_screen = nullptr;
+  bool m_color = false;
 };
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_SCREEN_H_

@@ -1,35 +1,41 @@
 // SPDX-License-Identifier: MIT
 // A board as lines of pieces, each with its role; the terminal and the full screen turn the roles
 // into colours.
-#pragma once
+#ifndef ALMARA_VIEWER_STYLED_TEXT_H_
+#define ALMARA_VIEWER_STYLED_TEXT_H_
 
 #include <string>
 #include <vector>
 
-namespace viewer {
+namespace almara::viewer {
 
 enum class Role {
-  Plain,
-  Title,
-  Heading,
-  BreakHeading,
-  WeekNumber,
-  Day,
-  BreakDay,
-  Today,
-  MonthTitle,
-  Festival,
-  SolarTerm,
-  LunarDay,
-  Hint,
+  kPlain,
+  kTitle,
+  kHeading,
+  kBreakHeading,
+  kWeekNumber,
+  kDay,
+  kBreakDay,
+  kToday,
+  kMonthTitle,
+  kFestival,
+  kSolarTerm,
+  kLunarDay,
+  kHint,
 };
+
+// Whether roles become colours: kAuto leaves it to NO_COLOR and the terminal.
+enum class ColorMode { kAuto, kAlways, kNever };
 
 struct Piece {
   std::string text;
-  Role role = Role::Plain;
+  Role role = Role::kPlain;
   bool selected = false;
 };
 
 using Line = std::vector<Piece>;
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_STYLED_TEXT_H_

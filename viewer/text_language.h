@@ -1,36 +1,39 @@
 // SPDX-License-Identifier: MIT
 // The languages that the viewer has texts in.
-#pragma once
+#ifndef ALMARA_VIEWER_TEXT_LANGUAGE_H_
+#define ALMARA_VIEWER_TEXT_LANGUAGE_H_
 
 #include <almara/almara_types.h>
 
-namespace viewer {
+namespace almara::viewer {
 
 enum class TextLanguage {
-  English,
-  ChineseSimplified,
-  ChineseTraditional,
-  Korean,
-  Japanese,
-  Vietnamese,
+  kEnglish,
+  kChineseSimplified,
+  kChineseTraditional,
+  kKorean,
+  kJapanese,
+  kVietnamese,
 };
 
 // English for a region without texts of its own.
-constexpr TextLanguage textLanguageOf(ELanguage region) {
+constexpr TextLanguage TextLanguageOf(ELanguage region) {
   switch (region) {
     case eLanguageChs:
-      return TextLanguage::ChineseSimplified;
+      return TextLanguage::kChineseSimplified;
     case eLanguageCht:
-      return TextLanguage::ChineseTraditional;
+      return TextLanguage::kChineseTraditional;
     case eLanguageKor:
-      return TextLanguage::Korean;
+      return TextLanguage::kKorean;
     case eLanguageJpn:
-      return TextLanguage::Japanese;
+      return TextLanguage::kJapanese;
     case eLanguageVit:
-      return TextLanguage::Vietnamese;
+      return TextLanguage::kVietnamese;
     default:
-      return TextLanguage::English;
+      return TextLanguage::kEnglish;
   }
 }
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_TEXT_LANGUAGE_H_

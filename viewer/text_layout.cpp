@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cwchar>
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
 struct Character {
@@ -13,7 +13,7 @@ struct Character {
 };
 
 // The first character of a text that is not empty. A byte that is no character counts as one cell.
-Character firstCharacter(std::string_view text) {
+Character FirstCharacter(std::string_view text) {
   wchar_t character = 0;
   std::mbstate_t state{};
   const std::size_t bytes = std::mbrtowc(&character, text.data(), text.size(), &state);
@@ -24,11 +24,11 @@ Character firstCharacter(std::string_view text) {
 }
 
 // The longest beginning of the text that takes at most `width` cells.
-std::string_view prefixOfWidth(std::string_view text, int width) {
+std::string_view PrefixOfWidth(std::string_view text, int width) {
   std::size_t end = 0;
   int used = 0;
   while (end < text.size()) {
-    const Character next = firstCharacter(text.substr(end));
+    const Character next = FirstCharacter(text.substr(end));
     if (used + next.width > width) {
       break;
     }
@@ -40,35 +40,35 @@ std::string_view prefixOfWidth(std::string_view text, int width) {
 
 }  // namespace
 
-int displayWidth(std::string_view text) {
+int DisplayWidth(std::string_view text) {
   int width = 0;
   while (!text.empty()) {
-    const Character next = firstCharacter(text);
+    const Character next = FirstCharacter(text);
     width += next.width;
     text.remove_prefix(next.bytes);
   }
   return width;
 }
 
-std::string shorten(std::string_view text, int width, std::string_view ellipsis) {
-  if (displayWidth(text) <= width) {
+std::string Shorten(std::string_view text, int width, std::string_view ellipsis) {
+  if (DisplayWidth(text) <= width) {
     return std::string(text);
   }
-  const int room = width - displayWidth(ellipsis);
+  const int room = width - DisplayWidth(ellipsis);
   if (room < 1) {
-    return std::string(prefixOfWidth(text, width));
+    return std::string(PrefixOfWidth(text, width));
   }
-  return std::string(prefixOfWidth(text, room)).append(ellipsis);
+  return std::string(PrefixOfWidth(text, room)).append(ellipsis);
 }
 
-std::string fit(std::string_view text, int width, std::string_view ellipsis, Align align) {
-  const std::string shortened = shorten(text, width, ellipsis);
-  const int space = std::max(width - displayWidth(shortened), 0);
-  const int before = align == Align::Left ? 0 : align == Align::Right ? space : space / 2;
-  return repeat(" ", before) + shortened + repeat(" ", space - before);
+std::string Fit(std::string_view text, int width, std::string_view ellipsis, Align align) {
+  const std::string shortened = Shorten(text, width, ellipsis);
+  const int space = std::max(width - DisplayWidth(shortened), 0);
+  const int before = align == Align::kLeft ? 0 : align == Align::kRight ? space : space / 2;
+  return Repeat(" ", before) + shortened + Repeat(" ", space - before);
 }
 
-std::string repeat(std::string_view text, int count) {
+std::string Repeat(std::string_view text, int count) {
   std::string result;
   for (int i = 0; i < count; ++i) {
     result.append(text);
@@ -76,7 +76,7 @@ std::string repeat(std::string_view text, int count) {
   return result;
 }
 
-std::string fillPattern(std::string_view pattern, const PatternValues& values) {
+std::string FillPattern(std::string_view pattern, const PatternValues& values) {
   std::string result;
   for (std::size_t at = 0; at < pattern.size(); ++at) {
     if (pattern[at] != '{') {
@@ -93,4 +93,4 @@ std::string fillPattern(std::string_view pattern, const PatternValues& values) {
   return result;
 }
 
-}  // namespace viewer
+}  // namespace almara::viewer

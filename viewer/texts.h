@@ -1,73 +1,90 @@
 // SPDX-License-Identifier: MIT
 // The words of the calendar in the languages that the viewer speaks.
-#pragma once
+#ifndef ALMARA_VIEWER_TEXTS_H_
+#define ALMARA_VIEWER_TEXTS_H_
 
 #include <almara/almara_types.h>
 
+#include <array>
 #include <string>
 
 #include "civil_date.h"
 #include "text_language.h"
 
-namespace viewer {
+namespace almara::viewer {
 
 // One language's words. In the patterns {y} stands for the year, {m} for the number of the month,
 // {M} for its name, {S} for its short name, {d} for the day and {w} for the day of the week; {n}
 // and {N} are the number and the name of a second month and {z} its year. Of a lunar date, {L} is
 // the name of the month and {D} that of the day. {c} is a count.
 struct Texts {
-  TextLanguage language;
+  TextLanguage language = TextLanguage::kEnglish;
 
-  const char* weekdays[7];  // short, from Sunday
-  const char* longWeekdays[7];
-  const char* months[12];
-  const char* shortMonths[12];
+  std::array<const char*, 7> weekdays{};  // short, from Sunday
+  std::array<const char*, 7> longWeekdays{};
+  std::array<const char*, 12> months{};
+  std::array<const char*, 12> shortMonths{};
 
-  const char* fullDate;     // {y} {m} {M} {d} {w}
-  const char* dayOfMonth;   // {S} {d}, in a list of names
-  const char* title;        // {y} {m} {M}
-  const char* titleMonths;  // {y} {m} {M} {n} {N}, two months of one year
-  const char* titleYears;   // {y} {m} {M} {n} {N} {z}, months of two years
+  const char* fullDate = nullptr;     // {y} {m} {M} {d} {w}
+  const char* dayOfMonth = nullptr;   // {S} {d}, in a list of names
+  const char* title = nullptr;        // {y} {m} {M}
+  const char* titleMonths = nullptr;  // {y} {m} {M} {n} {N}, two months of one year
+  const char* titleYears = nullptr;   // {y} {m} {M} {n} {N} {z}, months of two years
 
-  const char* const* lunarMonths;  // 12 names, or null where numbers are used
-  const char* const* lunarDays;    // 30 names, or null
-  const char* lunarMonth;          // {m} {L}, under the first day of a month
-  const char* lunarLeapMonth;      // {m} {L}
-  const char* lunarDay;            // {d} {D}, under any other day
-  const char* lunarDate;           // {y} {m} {d} {L} {D}
-  const char* lunarLeapDate;       // {y} {m} {d} {L} {D}
+  std::array<const char*, 12> lunarMonths{};  // null where numbers are used
+  std::array<const char*, 30> lunarDays{};    // likewise
+  const char* lunarMonth = nullptr;           // {m} {L}, under the first day of a month
+  const char* lunarLeapMonth = nullptr;       // {m} {L}
+  const char* lunarDay = nullptr;             // {d} {D}, under any other day
+  const char* lunarDate = nullptr;            // {y} {m} {d} {L} {D}
+  const char* lunarLeapDate = nullptr;        // {y} {m} {d} {L} {D}
 
-  const char* weekHeading;
-  const char* week;
-  const char* dayOfYear;
-  const char* dayOfYearValue;  // {d} {c}
-  const char* lunarDateLabel;
-  const char* solarTerm;
-  const char* festivals;
-  const char* fromToday;
-  const char* today;
-  const char* tomorrow;
-  const char* yesterday;
-  const char* inDays;   // {c}
-  const char* daysAgo;  // {c}
+  const char* weekHeading = nullptr;
+  const char* week = nullptr;
+  const char* dayOfYear = nullptr;
+  const char* dayOfYearValue = nullptr;  // {d} {c}
+  const char* lunarDateLabel = nullptr;
+  const char* solarTerm = nullptr;
+  const char* festivals = nullptr;
+  const char* fromToday = nullptr;
+  const char* today = nullptr;
+  const char* tomorrow = nullptr;
+  const char* yesterday = nullptr;
+  const char* inDays = nullptr;   // {c}
+  const char* daysAgo = nullptr;  // {c}
 };
 
+// Each in a file of its own under languages/, label by label.
+Texts TextsEnglish();
+Texts TextsChineseSimplified();
+Texts TextsChineseTraditional();
+Texts TextsKorean();
+Texts TextsJapanese();
+Texts TextsVietnamese();
+
 // English where the terminal cannot show the region's own language.
-const Texts& textsFor(ELanguage region, bool utf8);
+Texts TextsFor(ELanguage region, bool utf8);
+
+// A day of the week from 0, Sunday, and a month from 1.
+const char* Weekday(const Texts& texts, ECalendarWeek day);
+const char* Month(const Texts& texts, int month);
+const char* ShortMonth(const Texts& texts, int month);
 
 // "Saturday, 10 February 2024"
-std::string fullDateText(const Texts& texts, CivilDate date);
+std::string FullDateText(const Texts& texts, CivilDate date);
 
 // "Feb 10", "Feb  4"
-std::string dayOfMonthText(const Texts& texts, CivilDate date);
+std::string DayOfMonthText(const Texts& texts, CivilDate date);
 
 // "February 2024", "February - March 2024" or "December 2023 - January 2024"
-std::string monthsText(const Texts& texts, CivilDate first, CivilDate last);
+std::string MonthsText(const Texts& texts, CivilDate first, CivilDate last);
 
 // "41 of 366"
-std::string dayOfYearText(const Texts& texts, CivilDate date);
+std::string DayOfYearText(const Texts& texts, CivilDate date);
 
 // "in 12 days"
-std::string fromTodayText(const Texts& texts, int days);
+std::string FromTodayText(const Texts& texts, int days);
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_TEXTS_H_

@@ -10,19 +10,20 @@
 
 #include "annotations.h"
 #include "board_painter.h"
+#include "error_report.h"
 #include "listing.h"
 #include "navigator.h"
 #include "screen.h"
 #include "text_layout.h"
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
 constexpr int kWaitMs = 1000;  // how long a new day or a signal may go unnoticed
 
 volatile std::sig_atomic_t g_signal = 0;
 
-extern "C" void rememberSignal(int signal) { g_signal = signal; }
+extern "C" void RememberSignal(int signal) { g_signal = signal; }
 
 // Ends the wait for a key on a signal that asks the program to stop, so that the screen is left in
 // order; the signal then does its usual work.
@@ -31,15 +32,15 @@ class StopSignals {
   StopSignals() {
     for (int signal : kSignals) {
       struct sigaction action {};
-      action.sa_handler = rememberSignal;
+      action.sa_handler = RememberSignal;
       sigaction(signal, &action, nullptr);
     }
   }
 
-  static bool arrived() { return g_signal != 0; }
+  static bool Arrived() { return g_signal != 0; }
 
-  static void deliver() {
-    if (arrived()) {
+  static void Deliver() {
+    if (Arrived()) {
       std::signal(g_signal, SIG_DFL);
       std::raise(g_signal);
     }
@@ -65,40 +66,41 @@ constexpr const char* kHelp[] = {
 class Tui {
  public:
   Tui(const Options& options, bool utf8, Screen& screen)
-      : navigator_(options.board),
-        screen_(screen),
-        annotator_(options.board.language),
-        annotations_(options.annotations) {
-    settings_.weekNumbers = options.weekNumbers;
-    settings_.texts = &textsFor(options.board.language, utf8);
-    settings_.glyphs = &glyphsFor(utf8);
+      : m_navigator(options.board),
+        m_screen(screen),
+        m_texts(TextsFor(options.board.language, utf8)),
+        m_annotator(options.board.language),
+        m_annotations(options.annotations) {
+    m_settings.weekNumbers = options.weekNumbers;
+    m_settings.texts = &m_texts;
+    m_settings.glyphs = &GlyphsFor(utf8);
   }
 
-  void run() {
-    while (!quit_ && !StopSignals::arrived()) {
-      draw();
-      handle(screen_.readKey(kWaitMs));
+  void Run() {
+    while (!m_quit && !StopSignals::Arrived()) {
+      Draw();
+      Handle(m_screen.ReadKey(kWaitMs));
     }
   }
 
  private:
-  void draw() {
-    settings_.width = screen_.width();
-    settings_.selected = navigator_.selected();
-    screen_.draw(help_ ? helpLines() : screenLines(), statusLine());
+  void Draw() {
+    m_settings.width = m_screen.Width();
+    m_settings.selected = m_navigator.Selected();
+    m_screen.Draw(m_help ? HelpLines() : ScreenLines(), StatusLine());
   }
 
-  Line statusLine() const {
-    if (prompt_) {
-      return {{"Go to (YYYY-MM-DD): " + *prompt_ + "_"}};
+  Line StatusLine() const {
+    if (m_prompt) {
+      return {{"Go to (YYYY-MM-DD): " + *m_prompt + "_"}};
     }
-    if (!message_.empty()) {
-      return {{message_}};
+    if (!m_message.empty()) {
+      return {{m_message}};
     }
-    return {{"? help  q quit", Role::Hint}};
+    return {{"? help  q quit", Role::kHint}};
   }
 
-  static std::vector<Line> helpLines() {
+  static std::vector<Line> HelpLines() {
     std::vector<Line> lines;
     for (const char* text : kHelp) {
       lines.push_back({{text}});
@@ -107,28 +109,28 @@ class Tui {
   }
 
   // Title, headings, the board, the selected day, and the legend where there is room for it.
-  std::vector<Line> screenLines() {
-    const std::vector<Line> details = detailLines();
-    const int room = screen_.height() - kStatusLines;
-    PaintedBoard painted = paint(annotations_);
-    if (annotations_ && heightOf(painted) + static_cast<int>(details.size()) > room) {
-      painted = paint(false);
+  std::vector<Line> ScreenLines() {
+    const std::vector<Line> details = DetailLines();
+    const int room = m_screen.Height() - kStatusLines;
+    PaintedBoard painted = Paint(m_annotations);
+    if (m_annotations && HeightOf(painted) + static_cast<int>(details.size()) > room) {
+      painted = Paint(false);
     }
     std::vector<Line> lines = {painted.title, painted.headings};
-    append(lines, rowsAroundSelection(painted, room - 2 - static_cast<int>(details.size())));
-    append(lines, details);
-    if (annotations_) {
-      append(lines, legendIfFitting(room - static_cast<int>(lines.size())));
+    Append(lines, RowsAroundSelection(painted, room - 2 - static_cast<int>(details.size())));
+    Append(lines, details);
+    if (m_annotations) {
+      Append(lines, LegendIfFitting(room - static_cast<int>(lines.size())));
     }
     return lines;
   }
 
-  PaintedBoard paint(bool annotated) {
-    settings_.annotator = annotated ? &annotator_ : nullptr;
-    return paintBoard(navigator_.board(), settings_);
+  PaintedBoard Paint(bool annotated) {
+    m_settings.annotator = annotated ? &m_annotator : nullptr;
+    return PaintBoard(m_navigator.Board(), m_settings);
   }
 
-  static int heightOf(const PaintedBoard& painted) {
+  static int HeightOf(const PaintedBoard& painted) {
     int height = 2;
     for (const auto& row : painted.rows) {
       height += static_cast<int>(row.size());
@@ -136,51 +138,50 @@ class Tui {
     return height;
   }
 
-  static void append(std::vector<Line>& lines, const std::vector<Line>& more) {
+  static void Append(std::vector<Line>& lines, const std::vector<Line>& more) {
     lines.insert(lines.end(), more.begin(), more.end());
   }
 
   // All rows, or as many as fit with the selected one among them.
-  std::vector<Line> rowsAroundSelection(const PaintedBoard& painted, int room) const {
+  std::vector<Line> RowsAroundSelection(const PaintedBoard& painted, int room) const {
     if (painted.rows.empty()) {
       return {};
     }
     const std::size_t linesPerRow = painted.rows.front().size();
     const std::size_t fitting =
         std::max(static_cast<std::size_t>(std::max(room, 0)) / linesPerRow, std::size_t{1});
-    const std::size_t selected = selectedRow();
+    const std::size_t selected = SelectedRow();
     const std::size_t first = selected < fitting ? 0 : selected - fitting + 1;
     const std::size_t end = std::min(first + fitting, painted.rows.size());
     std::vector<Line> lines;
     for (std::size_t row = first; row < end; ++row) {
-      append(lines, painted.rows[row]);
+      Append(lines, painted.rows[row]);
     }
     return lines;
   }
 
-  std::vector<Line> detailLines() {
-    const Texts& texts = *settings_.texts;
-    const Annotation annotation = annotator_.annotate(navigator_.selected());
-    Line lunar = {{std::string(texts.lunarDateLabel) + "  ", Role::Hint},
-                  {lunarDateText(texts, annotation.lunar)}};
+  std::vector<Line> DetailLines() {
+    const Annotation annotation = m_annotator.Annotate(m_navigator.Selected());
+    Line lunar = {{std::string(m_texts.lunarDateLabel) + "  ", Role::kHint},
+                  {LunarDateText(m_texts, annotation.lunar)}};
     return {{},
-            {{fullDateText(texts, navigator_.selected()), Role::Title}},
+            {{FullDateText(m_texts, m_navigator.Selected()), Role::kTitle}},
             lunar,
-            namesLine(annotation, texts.language)};
+            NamesLine(annotation, m_texts.language)};
   }
 
-  std::vector<Line> legendIfFitting(int room) {
+  std::vector<Line> LegendIfFitting(int room) {
     std::vector<Line> legend = {{}};
-    append(legend, legendLines(namedDays(shownDays(navigator_.board()), annotator_),
-                               *settings_.texts, screen_.width()));
+    Append(legend, LegendLines(NamedDays(ShownDays(m_navigator.Board()), m_annotator), m_texts,
+                               m_screen.Width()));
     return static_cast<int>(legend.size()) <= room ? legend : std::vector<Line>{};
   }
 
-  std::size_t selectedRow() const {
-    const auto& rows = navigator_.board().rows;
+  std::size_t SelectedRow() const {
+    const auto& rows = m_navigator.Board().rows;
     for (std::size_t row = 0; row < rows.size(); ++row) {
       for (const tagCalendarCell& cell : rows[row]) {
-        if (showsDay(cell) && dateOf(cell) == navigator_.selected()) {
+        if (ShowsDay(cell) && DateOf(cell) == m_navigator.Selected()) {
           return row;
         }
       }
@@ -188,119 +189,119 @@ class Tui {
     return 0;
   }
 
-  void handle(const KeyPress& press) {
-    if (press.key == Key::None) {
-      navigator_.refreshToday();
+  void Handle(const KeyPress& press) {
+    if (press.key == Key::kNone) {
+      m_navigator.RefreshToday();
       return;
     }
-    if (press.key == Key::Resize) {
+    if (press.key == Key::kResize) {
       return;
     }
-    message_.clear();
-    if (prompt_) {
-      handlePrompt(press);
-    } else if (help_) {
-      help_ = false;
-      quit_ = press.key == Key::Character && press.character == 'q';
+    m_message.clear();
+    if (m_prompt) {
+      HandlePrompt(press);
+    } else if (m_help) {
+      m_help = false;
+      m_quit = press.key == Key::kCharacter && press.character == 'q';
     } else {
-      handleKey(press);
+      HandleKey(press);
     }
   }
 
-  void handleKey(const KeyPress& press) {
+  void HandleKey(const KeyPress& press) {
     switch (press.key) {
-      case Key::Left:
-        navigator_.moveDays(-1);
+      case Key::kLeft:
+        m_navigator.MoveDays(-1);
         break;
-      case Key::Right:
-        navigator_.moveDays(1);
+      case Key::kRight:
+        m_navigator.MoveDays(1);
         break;
-      case Key::Up:
-        navigator_.moveWeeks(-1);
+      case Key::kUp:
+        m_navigator.MoveWeeks(-1);
         break;
-      case Key::Down:
-        navigator_.moveWeeks(1);
+      case Key::kDown:
+        m_navigator.MoveWeeks(1);
         break;
-      case Key::PageUp:
-        page(-1);
+      case Key::kPageUp:
+        Page(-1);
         break;
-      case Key::PageDown:
-        page(1);
+      case Key::kPageDown:
+        Page(1);
         break;
-      case Key::Character:
-        handleCharacter(press.character);
+      case Key::kCharacter:
+        HandleCharacter(press.character);
         break;
       default:
         break;
     }
   }
 
-  void handleCharacter(char character) {
+  void HandleCharacter(char character) {
     switch (character) {
       case 'h':
-        navigator_.moveDays(-1);
+        m_navigator.MoveDays(-1);
         break;
       case 'l':
-        navigator_.moveDays(1);
+        m_navigator.MoveDays(1);
         break;
       case 'k':
-        navigator_.moveWeeks(-1);
+        m_navigator.MoveWeeks(-1);
         break;
       case 'j':
-        navigator_.moveWeeks(1);
+        m_navigator.MoveWeeks(1);
         break;
       case 't':
-        navigator_.goToToday();
+        m_navigator.GoToToday();
         break;
       case 'g':
-        prompt_ = "";
+        m_prompt = "";
         break;
       case 'm':
-        navigator_.nextMode();
-        message_ = std::string("Arrangement: ") + wordFor(kModeWords, navigator_.options().mode);
+        m_navigator.NextMode();
+        m_message = std::string("Arrangement: ") + WordFor(kModeWords, m_navigator.Options().mode);
         break;
       case 'w':
-        settings_.weekNumbers = !settings_.weekNumbers;
+        m_settings.weekNumbers = !m_settings.weekNumbers;
         break;
       case 'b':
-        navigator_.toggleBreakDays();
+        m_navigator.ToggleBreakDays();
         break;
       case 'i':
-        navigator_.toggleIntervals();
+        m_navigator.ToggleIntervals();
         break;
       case '?':
-        help_ = true;
+        m_help = true;
         break;
       case 'q':
-        quit_ = true;
+        m_quit = true;
         break;
       default:
         break;
     }
   }
 
-  void page(int direction) {
-    if (!navigator_.page(direction)) {
-      message_ = direction > 0 ? "The calendar ends with 2099" : "The calendar begins with 1900";
+  void Page(int direction) {
+    if (!m_navigator.Page(direction)) {
+      m_message = direction > 0 ? "The calendar ends with 2099" : "The calendar begins with 1900";
     }
   }
 
-  void handlePrompt(const KeyPress& press) {
+  void HandlePrompt(const KeyPress& press) {
     switch (press.key) {
-      case Key::Enter:
-        leavePrompt();
+      case Key::kEnter:
+        LeavePrompt();
         break;
-      case Key::Escape:
-        prompt_.reset();
+      case Key::kEscape:
+        m_prompt.reset();
         break;
-      case Key::Backspace:
-        if (!prompt_->empty()) {
-          prompt_->pop_back();
+      case Key::kBackspace:
+        if (!m_prompt->empty()) {
+          m_prompt->pop_back();
         }
         break;
-      case Key::Character:
-        if (prompt_->size() < kLongestDate && press.character >= ' ') {
-          prompt_->push_back(press.character);
+      case Key::kCharacter:
+        if (m_prompt->size() < kLongestDate && press.character >= ' ') {
+          m_prompt->push_back(press.character);
         }
         break;
       default:
@@ -308,44 +309,44 @@ class Tui {
     }
   }
 
-  void leavePrompt() {
-    const ParsedDate parsed = parseDate(*prompt_);
-    prompt_.reset();
+  void LeavePrompt() {
+    const ParsedDate parsed = ParseDate(*m_prompt);
+    m_prompt.reset();
     if (parsed.date) {
-      navigator_.goTo(*parsed.date);
+      m_navigator.GoTo(*parsed.date);
     } else {
-      message_ = "Go to: " + parsed.problem;
+      m_message = "Go to: " + parsed.problem;
     }
   }
 
   static constexpr int kStatusLines = 1;
   static constexpr std::size_t kLongestDate = 10;
 
-  Navigator navigator_;
-  Screen& screen_;
-  PaintSettings settings_;
-  Annotator annotator_;
-  bool annotations_;
-  bool help_ = false;
-  bool quit_ = false;
-  std::optional<std::string> prompt_;  // what was typed so far
-  std::string message_;
+  Navigator m_navigator;
+  Screen& m_screen;
+  const Texts m_texts;
+  PaintSettings m_settings;
+  Annotator m_annotator;
+  bool m_annotations;
+  bool m_help = false;
+  bool m_quit = false;
+  std::optional<std::string> m_prompt;  // what was typed so far
+  std::string m_message;
 };
 
 }  // namespace
 
-int runTui(const Options& options, bool utf8, Output& output) {
-  if (!output.isTerminal() || isatty(STDIN_FILENO) == 0) {
-    reportError("--tui needs a terminal");
-    return kExitUsage;
+int RunTui(const Options& options, bool utf8, Output& output) {
+  if (!output.IsTerminal() || isatty(STDIN_FILENO) == 0) {
+    throw UsageError("--tui needs a terminal");
   }
   {
     const StopSignals stopSignals;
-    Screen screen(output, useColor(options.color, output));
-    Tui(options, utf8, screen).run();
+    Screen screen(output, UseColor(options.color, output));
+    Tui(options, utf8, screen).Run();
   }
-  StopSignals::deliver();
+  StopSignals::Deliver();
   return 0;
 }
 
-}  // namespace viewer
+}  // namespace almara::viewer

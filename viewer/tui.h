@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 // The calendar in full screen.
-#pragma once
+#ifndef ALMARA_VIEWER_TUI_H_
+#define ALMARA_VIEWER_TUI_H_
 
 #include "options.h"
 #include "output.h"
 
-namespace viewer {
+namespace almara::viewer {
 
 // Runs until the user leaves; returns the program's exit code. The board is built already.
-int runTui(const Options& options, bool utf8, Output& output);
+int RunTui(const Options& options, bool utf8, Output& output);
 
-}  // namespace viewer
+}  // namespace almara::viewer
+
+#endif  // ALMARA_VIEWER_TUI_H_

@@ -3,49 +3,49 @@
 
 #include <gtest/gtest.h>
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
 TEST(CivilDate, EveryDayOfTheCalendarHasItsNumberAndWeekday) {
-  int number = dayNumber(kFirstDate);
+  int number = DayNumber(kFirstDate);
   int weekday = eCalendarWeekMonday;  // 1900-01-01
   int days = 0;
   for (int year = kFirstYear; year <= kLastYear; ++year) {
     int ordinal = 1;
     for (int month = 1; month <= 12; ++month) {
-      for (int day = 1; day <= daysInMonth(year, month); ++day) {
+      for (int day = 1; day <= DaysInMonth(year, month); ++day) {
         const CivilDate date{year, month, day};
-        ASSERT_EQ(dayNumber(date), number) << isoText(date);
-        ASSERT_EQ(fromDayNumber(number), date) << isoText(date);
-        ASSERT_EQ(dayOfWeek(date), weekday) << isoText(date);
-        ASSERT_EQ(dayOfYear(date), ordinal) << isoText(date);
+        ASSERT_EQ(DayNumber(date), number) << IsoText(date);
+        ASSERT_EQ(FromDayNumber(number), date) << IsoText(date);
+        ASSERT_EQ(DayOfWeek(date), weekday) << IsoText(date);
+        ASSERT_EQ(DayOfYear(date), ordinal) << IsoText(date);
         ++number;
         ++ordinal;
         ++days;
         weekday = (weekday + 1) % 7;
       }
     }
-    ASSERT_EQ(ordinal - 1, daysInYear(year));
+    ASSERT_EQ(ordinal - 1, DaysInYear(year));
   }
   EXPECT_EQ(days, 73049);  // 200 years with 49 leap days: 1900 has none
-  EXPECT_EQ(dayNumber({1970, 1, 1}), 0);
+  EXPECT_EQ(DayNumber({1970, 1, 1}), 0);
 }
 
 TEST(CivilDate, StepsStayInsideTheCalendar) {
-  EXPECT_EQ(addDays({2024, 2, 28}, 2), (CivilDate{2024, 3, 1}));
-  EXPECT_EQ(addDays(kFirstDate, -1), kFirstDate);
-  EXPECT_EQ(addDays(kLastDate, 7), kLastDate);
-  EXPECT_EQ(addMonths({2024, 3, 31}, -1), (CivilDate{2024, 2, 29}));
-  EXPECT_EQ(addMonths({2023, 12, 5}, 1), (CivilDate{2024, 1, 5}));
-  EXPECT_EQ(addMonths({1900, 1, 20}, -1), (CivilDate{1900, 1, 20}));
-  EXPECT_EQ(addMonths({2099, 12, 20}, 1), (CivilDate{2099, 12, 20}));
+  EXPECT_EQ(AddDays({2024, 2, 28}, 2), (CivilDate{2024, 3, 1}));
+  EXPECT_EQ(AddDays(kFirstDate, -1), kFirstDate);
+  EXPECT_EQ(AddDays(kLastDate, 7), kLastDate);
+  EXPECT_EQ(AddMonths({2024, 3, 31}, -1), (CivilDate{2024, 2, 29}));
+  EXPECT_EQ(AddMonths({2023, 12, 5}, 1), (CivilDate{2024, 1, 5}));
+  EXPECT_EQ(AddMonths({1900, 1, 20}, -1), (CivilDate{1900, 1, 20}));
+  EXPECT_EQ(AddMonths({2099, 12, 20}, 1), (CivilDate{2099, 12, 20}));
 }
 
 TEST(CivilDate, ReadsDatesAndSaysWhyNot) {
-  EXPECT_EQ(parseDate("2024-02-29").date, (CivilDate{2024, 2, 29}));
-  EXPECT_EQ(parseDate("2024-2-9").date, (CivilDate{2024, 2, 9}));
-  EXPECT_EQ(parseDate("1900-01-01").date, kFirstDate);
-  EXPECT_EQ(parseDate("2099-12-31").date, kLastDate);
+  EXPECT_EQ(ParseDate("2024-02-29").date, (CivilDate{2024, 2, 29}));
+  EXPECT_EQ(ParseDate("2024-2-9").date, (CivilDate{2024, 2, 9}));
+  EXPECT_EQ(ParseDate("1900-01-01").date, kFirstDate);
+  EXPECT_EQ(ParseDate("2099-12-31").date, kLastDate);
   const struct {
     const char* text;
     const char* problem;
@@ -62,11 +62,11 @@ TEST(CivilDate, ReadsDatesAndSaysWhyNot) {
       {"99999999999-1-1", "expected YYYY-MM-DD, not '99999999999-1-1'"},
   };
   for (const auto& c : kCases) {
-    const ParsedDate parsed = parseDate(c.text);
+    const ParsedDate parsed = ParseDate(c.text);
     EXPECT_FALSE(parsed.date) << c.text;
     EXPECT_EQ(parsed.problem, c.problem);
   }
 }
 
 }  // namespace
-}  // namespace viewer
+}  // namespace almara::viewer

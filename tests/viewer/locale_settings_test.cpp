@@ -5,7 +5,7 @@
 
 #include <cstdlib>
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
 TEST(LocaleSettings, LanguageFollowsTheLocaleName) {
@@ -36,7 +36,7 @@ TEST(LocaleSettings, LanguageFollowsTheLocaleName) {
       {"deutsch", eLanguageEng},
   };
   for (const auto& c : kCases) {
-    EXPECT_EQ(languageOfLocale(c.name), c.language) << c.name;
+    EXPECT_EQ(LanguageOfLocale(c.name), c.language) << c.name;
   }
 }
 
@@ -44,20 +44,20 @@ TEST(LocaleSettings, VariablesCountInTheirOrder) {
   unsetenv("LC_ALL");
   setenv("LC_TIME", "ja_JP.UTF-8", 1);
   setenv("LANG", "de_DE.UTF-8", 1);
-  EXPECT_EQ(useLocale().language, eLanguageJpn);
+  EXPECT_EQ(UseLocale().language, eLanguageJpn);
   setenv("LC_TIME", "", 1);
-  EXPECT_EQ(useLocale().language, eLanguageDeu);
+  EXPECT_EQ(UseLocale().language, eLanguageDeu);
   setenv("LC_ALL", "C", 1);
-  EXPECT_EQ(useLocale().language, eLanguageEng);
-  EXPECT_FALSE(useLocale().utf8);
+  EXPECT_EQ(UseLocale().language, eLanguageEng);
+  EXPECT_FALSE(UseLocale().utf8);
 }
 
 TEST(LocaleSettings, Utf8OfALocaleThatIsNotInstalled) {
   setenv("LC_ALL", "xx_XX.UTF-8", 1);
-  EXPECT_TRUE(useLocale().utf8);
+  EXPECT_TRUE(UseLocale().utf8);
   setenv("LC_ALL", "xx_XX", 1);
-  EXPECT_FALSE(useLocale().utf8);
+  EXPECT_FALSE(UseLocale().utf8);
 }
 
 }  // namespace
-}  // namespace viewer
+}  // namespace almara::viewer

@@ -13,35 +13,35 @@
 #include "annotations.h"
 #include "text_layout.h"
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
 constexpr TextLanguage kLanguages[] = {
-    TextLanguage::English, TextLanguage::ChineseSimplified, TextLanguage::ChineseTraditional,
-    TextLanguage::Korean,  TextLanguage::Japanese,          TextLanguage::Vietnamese};
+    TextLanguage::kEnglish, TextLanguage::kChineseSimplified, TextLanguage::kChineseTraditional,
+    TextLanguage::kKorean,  TextLanguage::kJapanese,          TextLanguage::kVietnamese};
 
 // Every code of the public header.
-std::vector<DayName> allNames() {
+std::vector<DayName> AllNames() {
   std::vector<DayName> names;
   const auto add = [&names](DayName::Kind kind, std::int32_t first, std::int32_t last) {
     for (std::int32_t code = first; code <= last; ++code) {
       names.push_back({kind, code});
     }
   };
-  add(DayName::Kind::SolarTerm, eSekkiMinorCold, eSekkiWinterSolstice);
-  add(DayName::Kind::SolarFestival, eFestivalSolarNewYearsDay, eFestivalSolarTeachersDay);
-  add(DayName::Kind::SolarFestival, eFestivalSolarConsumerRightsDay, eFestivalSolarNationalDayCht);
-  add(DayName::Kind::SolarFestival, eFestivalSolarIndependenceMovementDay,
+  add(DayName::Kind::kSolarTerm, eSekkiMinorCold, eSekkiWinterSolstice);
+  add(DayName::Kind::kSolarFestival, eFestivalSolarNewYearsDay, eFestivalSolarTeachersDay);
+  add(DayName::Kind::kSolarFestival, eFestivalSolarConsumerRightsDay, eFestivalSolarNationalDayCht);
+  add(DayName::Kind::kSolarFestival, eFestivalSolarIndependenceMovementDay,
       eFestivalSolarChristmasKor);
-  add(DayName::Kind::SolarFestival, eFestivalSolarIndependenceDay, eFestivalSolarGoodFriday);
-  add(DayName::Kind::SolarFestival, eFestivalSolarGanjitsu, eFestivalSolarEmperorsBirthday);
-  add(DayName::Kind::SolarFestival, eFestivalSolarReunificationDay, eFestivalSolarNationalDayVit);
-  add(DayName::Kind::LunarFestival, eFestivalLunarNewYearsDay, eFestivalLunarBuddhasBirthday);
-  add(DayName::Kind::LunarFestival, eFestivalLunarHungKings, eFestivalLunarHungKings);
+  add(DayName::Kind::kSolarFestival, eFestivalSolarIndependenceDay, eFestivalSolarGoodFriday);
+  add(DayName::Kind::kSolarFestival, eFestivalSolarGanjitsu, eFestivalSolarEmperorsBirthday);
+  add(DayName::Kind::kSolarFestival, eFestivalSolarReunificationDay, eFestivalSolarNationalDayVit);
+  add(DayName::Kind::kLunarFestival, eFestivalLunarNewYearsDay, eFestivalLunarBuddhasBirthday);
+  add(DayName::Kind::kLunarFestival, eFestivalLunarHungKings, eFestivalLunarHungKings);
   return names;
 }
 
-bool isAscii(const std::string& text) {
+bool IsAscii(const std::string& text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
 }
 
@@ -51,29 +51,29 @@ class Names : public testing::Test {
 };
 
 TEST_F(Names, EveryCodeHasAnEnglishNameInAscii) {
-  EXPECT_EQ(allNames().size(), 24U + 54U + 12U);
-  for (const DayName& name : allNames()) {
-    const std::string english = fullName(name, TextLanguage::English);
+  EXPECT_EQ(AllNames().size(), 24U + 54U + 12U);
+  for (const DayName& name : AllNames()) {
+    const std::string english = FullName(name, TextLanguage::kEnglish);
     EXPECT_NE(english, std::to_string(name.code));
-    EXPECT_TRUE(isAscii(english)) << english;
-    EXPECT_TRUE(isAscii(briefName(name, TextLanguage::English))) << english;
+    EXPECT_TRUE(IsAscii(english)) << english;
+    EXPECT_TRUE(IsAscii(BriefName(name, TextLanguage::kEnglish))) << english;
   }
 }
 
 TEST_F(Names, BriefNamesFitUnderADayOfABoardOf80Columns) {
-  for (const DayName& name : allNames()) {
+  for (const DayName& name : AllNames()) {
     for (const TextLanguage language : kLanguages) {
-      EXPECT_LE(displayWidth(briefName(name, language)), 9) << fullName(name, language);
-      EXPECT_GE(displayWidth(briefName(name, language)), 3) << fullName(name, language);
-      EXPECT_EQ(fullName(name, language).find('|'), std::string::npos);
+      EXPECT_LE(DisplayWidth(BriefName(name, language)), 9) << FullName(name, language);
+      EXPECT_GE(DisplayWidth(BriefName(name, language)), 3) << FullName(name, language);
+      EXPECT_EQ(FullName(name, language).find('|'), std::string::npos);
     }
   }
 }
 
 TEST_F(Names, AnUnknownCodeGivesItsNumber) {
-  EXPECT_EQ(solarTermName(24, TextLanguage::Korean), "24");
-  EXPECT_EQ(lunarFestivalName(20011, TextLanguage::English), "20011");
-  EXPECT_EQ(solarFestivalBrief(999, TextLanguage::English), "999");
+  EXPECT_EQ(SolarTermName(24, TextLanguage::kKorean), "24");
+  EXPECT_EQ(LunarFestivalName(20011, TextLanguage::kEnglish), "20011");
+  EXPECT_EQ(SolarFestivalBrief(999, TextLanguage::kEnglish), "999");
 }
 
 TEST_F(Names, WhatARegionMeetsInAYearIsNamedInItsLanguage) {
@@ -82,10 +82,10 @@ TEST_F(Names, WhatARegionMeetsInAYearIsNamedInItsLanguage) {
     InitCalendarLogicDt(region);
     Annotator annotator(region);
     std::set<std::string> foreign;
-    for (int day = dayNumber({2023, 1, 1}); day <= dayNumber({2023, 12, 31}); ++day) {
-      for (const DayName& name : namesOf(annotator.annotate(fromDayNumber(day)))) {
-        const std::string text = fullName(name, textLanguageOf(region));
-        if (isAscii(text)) {
+    for (int day = DayNumber({2023, 1, 1}); day <= DayNumber({2023, 12, 31}); ++day) {
+      for (const DayName& name : NamesOf(annotator.Annotate(FromDayNumber(day)))) {
+        const std::string text = FullName(name, TextLanguageOf(region));
+        if (IsAscii(text)) {
           foreign.insert(text);
         }
       }
@@ -99,4 +99,4 @@ TEST_F(Names, WhatARegionMeetsInAYearIsNamedInItsLanguage) {
 }
 
 }  // namespace
-}  // namespace viewer
+}  // namespace almara::viewer

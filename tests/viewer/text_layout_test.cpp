@@ -5,7 +5,7 @@
 
 #include <clocale>
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
 class TextLayout : public testing::Test {
@@ -14,37 +14,37 @@ class TextLayout : public testing::Test {
 };
 
 TEST_F(TextLayout, WidthCountsTerminalCells) {
-  EXPECT_EQ(displayWidth(""), 0);
-  EXPECT_EQ(displayWidth("March"), 5);
-  EXPECT_EQ(displayWidth("春分"), 4);
-  EXPECT_EQ(displayWidth("설날"), 4);
-  EXPECT_EQ(displayWidth("Đông chí"), 8);
-  EXPECT_EQ(displayWidth("e\xCC\x81"), 1);  // a combining accent
-  EXPECT_EQ(displayWidth("\xFF"), 1);       // not UTF-8
+  EXPECT_EQ(DisplayWidth(""), 0);
+  EXPECT_EQ(DisplayWidth("March"), 5);
+  EXPECT_EQ(DisplayWidth("春分"), 4);
+  EXPECT_EQ(DisplayWidth("설날"), 4);
+  EXPECT_EQ(DisplayWidth("Đông chí"), 8);
+  EXPECT_EQ(DisplayWidth("e\xCC\x81"), 1);  // a combining accent
+  EXPECT_EQ(DisplayWidth("\xFF"), 1);       // not UTF-8
 }
 
 TEST_F(TextLayout, ShortensAtWholeCharacters) {
-  EXPECT_EQ(shorten("Mother's Day", 12, "…"), "Mother's Day");
-  EXPECT_EQ(shorten("Mother's Day", 9, "…"), "Mother's…");
-  EXPECT_EQ(shorten("端午节", 5, "…"), "端午…");
-  EXPECT_EQ(shorten("端午节", 4, "…"), "端…");  // one cell stays free
-  EXPECT_EQ(shorten("端午节", 1, "…"), "");
-  EXPECT_EQ(shorten("端午节", 3, ""), "端");
-  EXPECT_EQ(shorten("March", 0, "…"), "");
+  EXPECT_EQ(Shorten("Mother's Day", 12, "…"), "Mother's Day");
+  EXPECT_EQ(Shorten("Mother's Day", 9, "…"), "Mother's…");
+  EXPECT_EQ(Shorten("端午节", 5, "…"), "端午…");
+  EXPECT_EQ(Shorten("端午节", 4, "…"), "端…");  // one cell stays free
+  EXPECT_EQ(Shorten("端午节", 1, "…"), "");
+  EXPECT_EQ(Shorten("端午节", 3, ""), "端");
+  EXPECT_EQ(Shorten("March", 0, "…"), "");
 }
 
 TEST_F(TextLayout, FitsExactly) {
-  EXPECT_EQ(fit("春分", 6, "…"), "春分  ");
-  EXPECT_EQ(fit("9", 3, "…", Align::Right), "  9");
-  EXPECT_EQ(fit("9", 4, "…", Align::Center), " 9  ");
-  EXPECT_EQ(fit("端午节", 4, "…"), "端… ");
+  EXPECT_EQ(Fit("春分", 6, "…"), "春分  ");
+  EXPECT_EQ(Fit("9", 3, "…", Align::kRight), "  9");
+  EXPECT_EQ(Fit("9", 4, "…", Align::kCenter), " 9  ");
+  EXPECT_EQ(Fit("端午节", 4, "…"), "端… ");
 }
 
 TEST_F(TextLayout, FillsPatterns) {
-  EXPECT_EQ(fillPattern("{y}年{m}月", {{'y', "2024"}, {'m', "3"}}), "2024年3月");
-  EXPECT_EQ(fillPattern("{d} {M}", {{'M', "March"}, {'d', "1"}}), "1 March");
-  EXPECT_EQ(fillPattern("plain", {}), "plain");
+  EXPECT_EQ(FillPattern("{y}年{m}月", {{'y', "2024"}, {'m', "3"}}), "2024年3月");
+  EXPECT_EQ(FillPattern("{d} {M}", {{'M', "March"}, {'d', "1"}}), "1 March");
+  EXPECT_EQ(FillPattern("plain", {}), "plain");
 }
 
 }  // namespace
-}  // namespace viewer
+}  // namespace almara::viewer

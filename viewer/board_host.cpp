@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "engine.h"
+#include "board_host.h"
 
 #include <almara/almara.h>
 
@@ -7,15 +7,15 @@
 #include <cstdlib>
 #include <memory>
 
-namespace viewer {
+namespace almara::viewer {
 namespace {
 
-std::string readConfigKey() {
+std::string ReadConfigKey() {
   const std::unique_ptr<char, decltype(&std::free)> key(GetConfigKey(), &std::free);
   return key ? key.get() : "";
 }
 
-std::vector<tagCalendarCell> readRow(int row, int columns) {
+std::vector<tagCalendarCell> ReadRow(int row, int columns) {
   std::vector<tagCalendarCell> cells;
   cells.reserve(static_cast<std::size_t>(columns));
   for (int column = 0; column < columns; ++column) {
@@ -24,14 +24,30 @@ std::vector<tagCalendarCell> readRow(int row, int columns) {
   return cells;
 }
 
+// The month intervals and the region stay as asked: GetShowMonthInterval() answers with another
+// flag, and no function tells the region.
+BoardOptions ReadOptions(const BoardOptions& asked) {
+  BoardOptions options = asked;
+  options.mode = GetDispMonth();
+  options.rows = GetMaxRow();
+  options.passedWeeks = GetPassedWeeks();
+  options.firstDay = GetStartDayOfWeek();
+  options.startWeek = GetStartWeekNumber();
+  options.weekRule = GetWeekNumberCalcType();
+  for (int day = eCalendarWeekSunday; day <= eCalendarWeekSaturday; ++day) {
+    options.breakDays[static_cast<std::size_t>(day)] = IsBreakDayOfWeek(day);
+  }
+  return options;
+}
+
 }  // namespace
 
-void startEngine(const BoardOptions& options) {
-  applyOptions(options);
+void StartEngine(const BoardOptions& options) {
+  ApplyOptions(options);
   InitCalendarLogicDt(options.language);
 }
 
-void applyOptions(const BoardOptions& options) {
+void ApplyOptions(const BoardOptions& options) {
   SetDispMonth(options.mode);
   SetMaxRow(options.rows);
   SetPassedWeeks(options.passedWeeks);
@@ -46,7 +62,7 @@ void applyOptions(const BoardOptions& options) {
   }
 }
 
-void showDate(const BoardOptions& options, CivilDate date) {
+void ShowDate(const BoardOptions& options, CivilDate date) {
   // A date that is not on the board would be shown as if paged to: at the board's edge, without the
   // passed weeks, and as no row at all in the tail arrangement. So today first, which ends paging,
   // then the date's whole month, which is found without paging, and from there the date itself.
@@ -57,39 +73,41 @@ void showDate(const BoardOptions& options, CivilDate date) {
   GotoSpecifiedDate(date.year, date.month, date.day);
 }
 
-void takeStep(const Step& step) {
+void TakeStep(const Step& step) {
   switch (step.kind) {
-    case Step::Kind::Next:
+    case Step::Kind::kNext:
       GotoNextPage();
       break;
-    case Step::Kind::Previous:
+    case Step::Kind::kPrevious:
       GotoPreviousPage();
       break;
-    case Step::Kind::Offset:
+    case Step::Kind::kOffset:
       GotoTodayOffset(step.offset);
       break;
   }
 }
 
-bool offsetStaysInRange(const BoardOptions& options, CivilDate today, int offset) {
+bool OffsetStaysInRange(const BoardOptions& options, CivilDate today, int offset) {
   if (options.mode == eDispMonthWholeMonth) {
     const std::int64_t month = std::int64_t{today.year} * 12 + today.month - 1 + offset;
     return month >= std::int64_t{kFirstYear} * 12 && month < std::int64_t{kLastYear + 1} * 12;
   }
-  const std::int64_t day = dayNumber(today) + std::int64_t{7} * options.rows * offset;
-  return day >= dayNumber(kFirstDate) && day <= dayNumber(kLastDate);
+  const std::int64_t day = DayNumber(today) + std::int64_t{7} * options.rows * offset;
+  return day >= DayNumber(kFirstDate) && day <= DayNumber(kLastDate);
 }
 
-Board readBoard() {
-  Board board;
-  board.mode = GetDispMonth();
+BoardSnapshot ReadBoard(const BoardOptions& asked) {
+  BoardSnapshot board;
+  board.options = ReadOptions(asked);
+  board.hideBreakDay = GetHideBreakDay();
+  board.showBreakDayOfWeek = GetShowBreakDayOfWeek();
   const int columns = GetContentColumns();
   for (int column = 0; column < columns; ++column) {
     board.headings.push_back(GetCalendarWeekByColumns(column));
     board.breakColumns.push_back(IsBreakDayOfWeek(board.headings.back()));
   }
   for (int row = 0; row < GetContentRows(); ++row) {
-    board.rows.push_back(readRow(row, columns));
+    board.rows.push_back(ReadRow(row, columns));
   }
   for (int index = 0; index < GetWeekNumberCount(); ++index) {
     board.weekSpans.push_back(GetWeekNumberItemWithIndex(index));
@@ -97,10 +115,10 @@ Board readBoard() {
   board.contentDate = GetContentDate();
   board.today = GetToday();
   board.todayOnBoard = IsTodayInBoard();
-  board.configKey = readConfigKey();
+  board.configKey = ReadConfigKey();
   return board;
 }
 
-CivilDate readToday() { return dateOf(GetToday()); }
+CivilDate ReadToday() { return DateOf(GetToday()); }
 
-}  // namespace viewer
+}  // namespace almara::viewer

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "texts.h"
+
+namespace almara::viewer {
+
+Texts TextsChineseSimplified() {
+  Texts texts;
+  texts.language = TextLanguage::kChineseSimplified;
+  texts.weekdays = {"周日", "周一", "周二", "周三", "周四", "周五", "周六"};
+  texts.longWeekdays = {"星期日", "星期一", "星期二", "星期三", "星期四", "星期五", "星期六"};
+  texts.months = {"一月", "二月", "三月", "四月", "五月",   "六月",
+                  "七月", "八月", "九月", "十月", "十一月", "十二月"};
+  texts.shortMonths = {"1月", "2月", "3月", "4月",  "5月",  "6月",
+                       "7月", "8月", "9月", "10月", "11月", "12月"};
+
+  texts.fullDate = "{y}年{m}月{d}日 {w}";
+  texts.dayOfMonth = "{S}{d}日";
+  texts.title = "{y}年{m}月";
+  texts.titleMonths = "{y}年{m}月 - {n}月";
+  texts.titleYears = "{y}年{m}月 - {z}年{n}月";
+
+  texts.lunarMonths = {"正月", "二月", "三月", "四月", "五月", "六月",
+                       "七月", "八月", "九月", "十月", "冬月", "腊月"};
+  texts.lunarDays = {"初一", "初二", "初三", "初四", "初五", "初六", "初七", "初八",
+                     "初九", "初十", "十一", "十二", "十三", "十四", "十五", "十六",
+                     "十七", "十八", "十九", "二十", "廿一", "廿二", "廿三", "廿四",
+                     "廿五", "廿六", "廿七", "廿八", "廿九", "三十"};
+  texts.lunarMonth = "{L}";
+  texts.lunarLeapMonth = "闰{L}";
+  texts.lunarDay = "{D}";
+  texts.lunarDate = "{y}年{L}{D}";
+  texts.lunarLeapDate = "{y}年闰{L}{D}";
+
+  texts.weekHeading = "周";
+  texts.week = "周数";
+  texts.dayOfYear = "年内第几天";
+  texts.dayOfYearValue = "{d} / {c}";
+  texts.lunarDateLabel = "农历";
+  texts.solarTerm = "节气";
+  texts.festivals = "节日";
+  texts.fromToday = "距今天";
+  texts.today = "今天";
+  texts.tomorrow = "明天";
+  texts.yesterday = "昨天";
+  texts.inDays = "{c}天后";
+  texts.daysAgo = "{c}天前";
+  return texts;
+}
+
+}  // namespace almara::viewer

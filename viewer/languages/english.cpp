@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "texts.h"
+
+namespace almara::viewer {
+
+Texts TextsEnglish() {
+  Texts texts;
+  texts.language = TextLanguage::kEnglish;
+  texts.weekdays = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+  texts.longWeekdays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
+                        "Thursday", "Friday", "Saturday"};
+  texts.months = {"January", "February", "March",     "April",   "May",      "June",
+                  "July",    "August",   "September", "October", "November", "December"};
+  texts.shortMonths = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                       "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+
+  texts.fullDate = "{w}, {d} {M} {y}";
+  texts.dayOfMonth = "{S} {d}";
+  texts.title = "{M} {y}";
+  texts.titleMonths = "{M} - {N} {y}";
+  texts.titleYears = "{M} {y} - {N} {z}";
+
+  texts.lunarMonth = "Moon {m}";
+  texts.lunarLeapMonth = "Leap {m}";
+  texts.lunarDay = "L{d}";
+  texts.lunarDate = "day {d} of month {m}, {y}";
+  texts.lunarLeapDate = "day {d} of leap month {m}, {y}";
+
+  texts.weekHeading = "Wk";
+  texts.week = "Week";
+  texts.dayOfYear = "Day of the year";
+  texts.dayOfYearValue = "{d} of {c}";
+  texts.lunarDateLabel = "Lunar date";
+  texts.solarTerm = "Solar term";
+  texts.festivals = "Festivals";
+  texts.fromToday = "When";
+  texts.today = "today";
+  texts.tomorrow = "tomorrow";
+  texts.yesterday = "yesterday";
+  texts.inDays = "in {c} days";
+  texts.daysAgo = "{c} days ago";
+  return texts;
+}
+
+}  // namespace almara::viewer
