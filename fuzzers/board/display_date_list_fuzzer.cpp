@@ -45,12 +45,12 @@ CCalendarSolarDateEx ChooseEntry(Input& input) {
 // Bands come as whole rows, and only on a board that was paged to are entries cut.
 void CheckList(const std::vector<CCalendarSolarDateEx>& source,
                const std::vector<CCalendarSolarDateEx>& display, const Board& board) {
-  ALMARA_CHECK(display.size() <= source.size() * (1 + kDaysOfWeek));
+  ALMARA_CHECK(display.size() <= source.size() * (1 + almara::kDaysOfWeek));
   const bool cuts = board.m_pageDirection == ePageDirectionBackward ||
                     board.m_pageDirection == ePageDirectionForward;
   if (!cuts) {
     ALMARA_CHECK(display.size() >= source.size());
-    ALMARA_CHECK((display.size() - source.size()) % kDaysOfWeek == 0);
+    ALMARA_CHECK((display.size() - source.size()) % almara::kDaysOfWeek == 0);
   }
   if (!board.IsShowMonthInterval() || board.GetDispMonth() == eDispMonthDayStrip) {
     ALMARA_CHECK(display.size() == source.size());

@@ -9,6 +9,7 @@
 #include "board/calendar_logic_build.h"
 #include "date/calendar_platform_api.h"
 #include "date/day_run.h"
+#include "date/gregorian.h"
 #include "date/int32.h"
 
 using almara::WrapAdd;
@@ -17,17 +18,10 @@ using almara::WrapSubtract;
 
 namespace {
 
-constexpr int kFirstYear = 1900;
-constexpr int kLastYear = 2099;
 constexpr int kWeeksOfHalfYear = 30;
 constexpr std::size_t kUsualListSize = 80;  // spares the lists of usual boards their growth
 
-bool IsBuildable(int year, int month, int day) {
-  return year >= kFirstYear && year <= kLastYear && month >= 1 && month <= 12 && day >= 1 &&
-         day <= 31;
-}
-
-int DaysOfWeeks(int weeks) { return WrapMultiply(weeks, kDaysOfWeek); }
+int DaysOfWeeks(int weeks) { return WrapMultiply(weeks, almara::kDaysOfWeek); }
 
 // Column of the first day of the month of a date that stands in the given column.
 int ColumnOfFirstDay(int day, int column) {
@@ -36,12 +30,12 @@ int ColumnOfFirstDay(int day, int column) {
 }
 
 // Normalises date, with its day of week, and returns the run of days that begins with it.
-DayRun DayRunFrom(CCalendarSolarDate& date) {
+almara::DayRun DayRunFrom(CCalendarSolarDate& date) {
   const CCalendarSolarDate asked = date;
-  DayRun run(asked.year, asked.month, asked.day);
+  almara::DayRun run(asked.year, asked.month, asked.day);
   run.DateAt(0, date);
   if (date.year != asked.year || date.month != asked.month || date.day != asked.day) {
-    run = DayRun(date.year, date.month, date.day);
+    run = almara::DayRun(date.year, date.month, date.day);
   }
   return run;
 }
@@ -50,7 +44,7 @@ DayRun DayRunFrom(CCalendarSolarDate& date) {
 
 int CCalendarLogicBuild::_BuildContent(int year, int month, int day,
                                        std::vector<tagCalendarRow>& rows) {
-  if (!IsBuildable(year, month, day)) {
+  if (!almara::IsBoardDate(year, month, day)) {
     return 0;
   }
   rows.clear();
@@ -59,7 +53,7 @@ int CCalendarLogicBuild::_BuildContent(int year, int month, int day,
   m_focusDay = day;
 
   CCalendarSolarDate focus{year, month, day, 0};
-  const DayRun run = DayRunFrom(focus);
+  const almara::DayRun run = DayRunFrom(focus);
   const int column = _GetColumnIndexByDayOfWeek(GetStartDayOfWeek(), focus.dayOfWeek);
   const DayCounts counts = _CountDays(focus, column);
 
@@ -71,9 +65,7 @@ int CCalendarLogicBuild::_BuildContent(int year, int month, int day,
   display.reserve(kUsualListSize);
   _MakeDateListWithType(source, display, counts.before, counts.after);
 
-  CCalendarSolarDate today{};
-  CalendarPlatformApi::GetTodayDate(today.year, today.month, today.day, today.dayOfWeek);
-  _FillRows(display, rowCount, today, rows);
+  _FillRows(display, rowCount, almara::Today(), rows);
   return 1;
 }
 
@@ -191,13 +183,13 @@ std::size_t CCalendarLogicBuild::_CountListedDays(int rowCount) const {
   if (rowCount > 0 && cutsFront) {
     return std::numeric_limits<std::size_t>::max();
   }
-  return static_cast<std::size_t>(std::max(rowCount, 0)) * kDaysOfWeek;
+  return static_cast<std::size_t>(std::max(rowCount, 0)) * almara::kDaysOfWeek;
 }
 
 // Leading padding is hidden while month intervals are shown; trailing padding never is. Hosts rely
 // on the difference. A date that the system cannot convert is listed as all zeroes.
 std::vector<CCalendarSolarDateEx> CCalendarLogicBuild::_MakeSourceDateList(
-    const DayRun& run, const CCalendarSolarDate& focus, const DayCounts& counts,
+    const almara::DayRun& run, const CCalendarSolarDate& focus, const DayCounts& counts,
     std::size_t listedDays) const {
   std::vector<CCalendarSolarDateEx> source;
   source.reserve(kUsualListSize);
@@ -235,7 +227,7 @@ void CCalendarLogicBuild::_FillRows(const std::vector<CCalendarSolarDateEx>& dis
   std::size_t index = 0;
   for (int r = 0; r < rowCount; ++r) {
     tagCalendarRow row{};
-    for (int c = 0; c < kDaysOfWeek; ++c, ++index) {
+    for (int c = 0; c < almara::kDaysOfWeek; ++c, ++index) {
       CCalendarItem& item = row.items[static_cast<std::size_t>(c)];
       item.SetRow(r);
       item.SetColumn(c);

@@ -12,7 +12,7 @@ namespace {
 constexpr std::string_view kWeekNumberLabel = "weeknumber = ";
 constexpr std::size_t kMaxRowLength =
     kWeekNumberLabel.size() + almara::kMaxDecimalLength +
-    std::size_t{kDaysOfWeek} * (1 + CCalendarItem::kMaxDayLength) + 1;
+    std::size_t{almara::kDaysOfWeek} * (1 + CCalendarItem::kMaxDayLength) + 1;
 
 // Formatted by hand, a line at a time: printf, cell by cell, took longer than the rest of the
 // build.

@@ -18,9 +18,9 @@ struct ColumnRange {
 // A rolling board narrower than a week follows today: the range starts half its width before today,
 // but stays within the board.
 ColumnRange RangeAroundToday(int todayColumn, int columns) {
-  int begin = std::clamp(todayColumn - columns / 2, 0, kDaysOfWeek - 1);
-  if (begin + columns > kDaysOfWeek) {
-    begin = kDaysOfWeek - columns;
+  int begin = std::clamp(todayColumn - columns / 2, 0, almara::kDaysOfWeek - 1);
+  if (begin + columns > almara::kDaysOfWeek) {
+    begin = almara::kDaysOfWeek - columns;
   }
   return {begin, begin + columns};
 }
@@ -37,7 +37,7 @@ void CCalendarLogicBuild::_CalcRowColumnIndex() {
 }
 
 void CCalendarLogicBuild::_CalcVisibleColumns() {
-  ColumnRange range{0, kDaysOfWeek};
+  ColumnRange range{0, almara::kDaysOfWeek};
   if (GetDispMonth() == eDispMonthRollingWeeks && m_todayColumn != -1) {
     range = RangeAroundToday(m_todayColumn, GetMaxColumns());
   } else if (GetDispMonth() == eDispMonthDayStrip) {
@@ -45,7 +45,7 @@ void CCalendarLogicBuild::_CalcVisibleColumns() {
   }
   for (int column = range.begin; column < range.end; ++column) {
     // The start day of week counts as it was set here, also outside 0 to 6; hosts rely on it.
-    const int dayOfWeek = WrapAdd(GetStartDayOfWeek(), column) % kDaysOfWeek;
+    const int dayOfWeek = WrapAdd(GetStartDayOfWeek(), column) % almara::kDaysOfWeek;
     if (IsShowBreakDayOfWeek() || !IsBreakDayOfWeek(dayOfWeek)) {
       m_visibleColumns[static_cast<std::size_t>(m_visibleColumnCount++)] = column;
     }

@@ -5,17 +5,17 @@
 #include <cstdio>
 
 void CCalendarConfig::SetMaxColumns(int columns) {
-  if (columns >= 1 && columns <= kDaysOfWeek) {
+  if (columns >= 1 && columns <= almara::kDaysOfWeek) {
     m_maxColumns = columns;
   }
 }
 
 bool CCalendarConfig::IsBreakDayOfWeek(int day) const {
-  return IsDayOfWeek(day) && m_breakDayOfWeek[static_cast<std::size_t>(day)] == 1;
+  return almara::IsDayOfWeek(day) && m_breakDayOfWeek[static_cast<std::size_t>(day)] == 1;
 }
 
 void CCalendarConfig::SetBreakDayOfWeek(int day, bool on) {
-  if (IsDayOfWeek(day)) {
+  if (almara::IsDayOfWeek(day)) {
     m_breakDayOfWeek[static_cast<std::size_t>(day)] = on ? 1 : 0;
   }
 }

@@ -7,11 +7,7 @@
 #include <array>
 #include <string>
 
-// Number of days of a week, and of columns of a board.
-constexpr int kDaysOfWeek = 7;
-
-// Whether value is a day of the week, 0 = Sunday to 6 = Saturday.
-constexpr bool IsDayOfWeek(int value) { return value >= 0 && value < kDaysOfWeek; }
+#include "date/gregorian.h"
 
 // The options of the month board. A setting takes effect at the next build. Unless a setter says
 // otherwise it stores whatever it is given.
@@ -69,13 +65,13 @@ class CCalendarConfig {
  private:
   EDispMonth m_dispMonth = eDispMonthRollingWeeks;
   int m_maxRows = 5;
-  int m_maxColumns = kDaysOfWeek;
+  int m_maxColumns = almara::kDaysOfWeek;
   int m_passedWeeks = 1;
   ECalendarWeek m_startDayOfWeek = eCalendarWeekMonday;
   int m_startWeekNumber = 1;
   bool m_hideBreakDay = false;
   bool m_showMonthInterval = true;
-  std::array<int, kDaysOfWeek> m_breakDayOfWeek{1, 0, 0, 0, 0, 0, 1};  // by ECalendarWeek
+  std::array<int, almara::kDaysOfWeek> m_breakDayOfWeek{1, 0, 0, 0, 0, 0, 1};  // by ECalendarWeek
   bool m_showBreakDayOfWeek = true;
   EWeekNumberCalc m_weekNumberCalcType = eWeekNumberCalcIso8601;
 };

@@ -52,9 +52,9 @@ int CCalendarLogicBuild::_BuildContentOfToday(std::vector<tagCalendarRow>& rows)
 }
 
 int CCalendarLogicBuild::_GetColumnIndexByDayOfWeek(int startDayOfWeek, int dayOfWeek) {
-  if (!IsDayOfWeek(dayOfWeek)) {
+  if (!almara::IsDayOfWeek(dayOfWeek)) {
     return -1;
   }
-  const int start = IsDayOfWeek(startDayOfWeek) ? startDayOfWeek : eCalendarWeekMonday;
-  return (dayOfWeek - start + kDaysOfWeek) % kDaysOfWeek;
+  const int start = almara::IsDayOfWeek(startDayOfWeek) ? startDayOfWeek : eCalendarWeekMonday;
+  return (dayOfWeek - start + almara::kDaysOfWeek) % almara::kDaysOfWeek;
 }

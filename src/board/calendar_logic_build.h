@@ -29,7 +29,7 @@ enum EPageDirection {
 // One row of the board.
 struct tagCalendarRow {
   int weekNumber = 0;  // of the last cell that has one; a row without any repeats the row before
-  std::array<CCalendarItem, kDaysOfWeek> items;
+  std::array<CCalendarItem, almara::kDaysOfWeek> items;
 };
 
 // Consecutive visible rows that share one box in the week-number column.
@@ -101,10 +101,10 @@ class CCalendarLogicBuild : public CCalendarConfig {
   int m_visibleRowCount = 0;
   std::array<int, kMaxVisibleRows> m_visibleRows{};  // indices of m_rows, ascending
   int m_visibleColumnCount = 0;
-  std::array<int, kDaysOfWeek> m_visibleColumns{};  // board columns, ascending
-  int m_pageDirection = ePageDirectionNone;         // stays in force until it is set again
-  CCalendarItem m_firstDateItem;                    // first cell that shows a day
-  CCalendarItem m_lastDateItem;                     // last such cell
+  std::array<int, almara::kDaysOfWeek> m_visibleColumns{};  // board columns, ascending
+  int m_pageDirection = ePageDirectionNone;                 // stays in force until it is set again
+  CCalendarItem m_firstDateItem;                            // first cell that shows a day
+  CCalendarItem m_lastDateItem;                             // last such cell
   std::vector<tagCalendarRow> m_rows;
   std::vector<tagCalendarWeekSpan> m_weekNumberSpans;
   int m_focusYear = 0;  // the date last accepted, as it was passed, not normalised
@@ -134,7 +134,7 @@ class CCalendarLogicBuild : public CCalendarConfig {
 
   std::size_t _CountListedDays(int rowCount) const;
 
-  std::vector<CCalendarSolarDateEx> _MakeSourceDateList(const DayRun& run,
+  std::vector<CCalendarSolarDateEx> _MakeSourceDateList(const almara::DayRun& run,
                                                         const CCalendarSolarDate& focus,
                                                         const DayCounts& counts,
                                                         std::size_t listedDays) const;

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <iterator>
 
+#include "date/gregorian.h"
 #include "date/int32.h"
 
 using almara::WrapAdd;
@@ -12,16 +13,7 @@ using almara::WrapSubtract;
 
 namespace {
 
-constexpr int kFirstYear = 1900;
-constexpr int kLastYear = 2099;
 constexpr int kSecondsPerDay = 86400;
-
-bool IsAccepted(int year, int month, int day) {
-  return year >= kFirstYear && year <= kLastYear && month >= 1 && month <= 12 && day >= 1 &&
-         day <= 31;
-}
-
-bool IsLeap(int year) { return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0; }
 
 // Weekday of 1 January, 0 = Sunday.
 int SundayBasedWeekdayOfJan1(int year) {
@@ -44,17 +36,14 @@ int GaussWeekdayOfJan1(int year) {
 
 int IsoWeeksOfYear(int year) {
   const int jan1 = SundayBasedWeekdayOfJan1(year);
-  return jan1 == 4 || (jan1 == 3 && IsLeap(year)) ? 53 : 52;
+  return jan1 == 4 || (jan1 == 3 && almara::IsLeapYear(year)) ? 53 : 52;
 }
 
 // ISO 8601 week of an accepted date. correction is subtracted from the weeks of a year that begins
 // on a Friday, Saturday or Sunday, whose first days still belong to the year before.
 int IsoWeek(int year, int month, int day, int correction) {
-  static constexpr int nMonthArray[] = {0,   31,  59,  90,  120, 151,
-                                        181, 212, 243, 273, 304, 334};  // days before the month
   const int jan1 = GaussWeekdayOfJan1(year);
-  const int leapDay = IsLeap(year) ? 1 : 0;
-  const int dayOfYear = nMonthArray[month - 1] + day + (month > 2 ? leapDay : 0);
+  const int dayOfYear = almara::DayOfYear(year, month, day);
   const bool startsLate = jan1 > 3;
 
   if (startsLate && dayOfYear <= 7 - jan1) {
@@ -64,7 +53,7 @@ int IsoWeek(int year, int month, int day, int correction) {
     return longYearBefore ? 53 : 52;
   }
   const int weekday = (dayOfYear + jan1 - 1) % 7;
-  const bool thursdayIsNextYear = 365 + leapDay - dayOfYear < 3 - weekday;
+  const bool thursdayIsNextYear = almara::DaysOfYear(year) - dayOfYear < 3 - weekday;
   if (thursdayIsNextYear) {
     return 1;
   }
@@ -100,21 +89,21 @@ int CCalendarWeekNumber::GetWeekNumber(int year, int month, int day, EWeekNumber
 }
 
 int CCalendarWeekNumber::_GetWeekNumber(int year, int month, int day) const {
-  if (!IsAccepted(year, month, day)) {
+  if (!almara::IsBoardDate(year, month, day)) {
     return -1;
   }
   return IsoWeek(year, month, day, 1);
 }
 
 int CCalendarWeekNumber::_GetWeekNumber2(int year, int month, int day) const {
-  if (!IsAccepted(year, month, day)) {
+  if (!almara::IsBoardDate(year, month, day)) {
     return -1;
   }
   return IsoWeek(year, month, day, 0);
 }
 
 int CCalendarWeekNumber::_GetWeekOfYear(int year, int month, int day) const {
-  if (!IsAccepted(year, month, day)) {
+  if (!almara::IsBoardDate(year, month, day)) {
     return -1;
   }
   const std::time_t seconds = LocalMidnight(year, month, day) - LocalMidnight(year, 1, 1);
@@ -122,22 +111,12 @@ int CCalendarWeekNumber::_GetWeekOfYear(int year, int month, int day) const {
   return (days + MondayBasedWeekdayOfJan1(year)) / 7 + 1;
 }
 
-int CCalendarWeekNumber::_IsALeapYear(int year) const { return IsLeap(year) ? 1 : 0; }
+int CCalendarWeekNumber::_IsALeapYear(int year) const { return almara::IsLeapYear(year) ? 1 : 0; }
 
-int CCalendarWeekNumber::_GetDaysInYear(int year) const { return IsLeap(year) ? 366 : 365; }
+int CCalendarWeekNumber::_GetDaysInYear(int year) const { return almara::DaysOfYear(year); }
 
 int CCalendarWeekNumber::_GetDaysInMonth(int year, int month) const {
-  switch (month) {
-    case 2:
-      return IsLeap(year) ? 29 : 28;
-    case 4:
-    case 6:
-    case 9:
-    case 11:
-      return 30;
-    default:
-      return 31;
-  }
+  return almara::IsMonth(month) ? almara::DaysOfMonth(year, month) : 31;
 }
 
 int CCalendarWeekNumber::_GetDayOfTheWeek(int year, int month, int day) const {
@@ -156,7 +135,7 @@ int CCalendarWeekNumber::_GetDayAndMonthFromDayInYear(int year, int dayInYear, i
   // Days of the year after February that precede March to December, and month 13.
   static constexpr int kDaysBefore[] = {0, 31, 61, 92, 122, 153, 184, 214, 245, 275, 306};
   constexpr int kDaysOfJanuary = 31;
-  const int daysOfFebruary = IsLeap(year) ? 29 : 28;
+  const int daysOfFebruary = almara::IsLeapYear(year) ? 29 : 28;
 
   *month = 1;
   *day = dayInYear;

@@ -55,7 +55,7 @@ class CCalendarWeekNumber {
   int _GetDayAndMonthFromWeekInYear(int* year, int week, int* month, int* day) const;
 
  private:
-  DateMemo<int> m_mapWeekNumberCache;  // by calculation type and date
+  almara::DateMemo<int> m_mapWeekNumberCache;  // by calculation type and date
 };
 
 // Sets the date of t to local midnight of the given day, with daylight saving left for the system

@@ -6,14 +6,12 @@
 #include <vector>
 
 #include "board/calendar_logic_build.h"
+#include "date/gregorian.h"
 #include "date/int32.h"
 
 using almara::WrapSubtract;
 
 namespace {
-
-constexpr int kFirstYear = 1900;
-constexpr int kLastYear = 2099;
 
 void EraseFirst(std::vector<CCalendarSolarDateEx>& list, int count) {
   const auto n =
@@ -26,20 +24,19 @@ void EraseLast(std::vector<CCalendarSolarDateEx>& list, int count) {
 }
 
 // Only whole rows are cut, so that no day changes its column.
-bool IsWholeRows(int surplus) { return surplus > 0 && surplus % kDaysOfWeek == 0; }
+bool IsWholeRows(int surplus) { return surplus > 0 && surplus % almara::kDaysOfWeek == 0; }
 
 }  // namespace
 
 int CCalendarLogicBuild::_GetMaxDaysOfSolarMonth(int year, int month) {
-  if (year < kFirstYear || year > kLastYear || month < 1 || month > 12) {
+  if (!almara::IsBoardDate(year, month, 1)) {
     return -1;
   }
   return _DaysOfSolarMonth(year, month);
 }
 
 int CCalendarLogicBuild::_DaysOfSolarMonth(int year, int month) {
-  const bool leapYear = (year % 100 != 0 && year % 4 == 0) || year % 400 == 0;
-  return month == 2 && leapYear ? 29 : s_ArrDaysOfSolarMonth[month - 1];
+  return almara::DaysOfMonth(year, month);
 }
 
 void CCalendarLogicBuild::_MakeDateListWithType(std::vector<CCalendarSolarDateEx>& source,
@@ -49,7 +46,8 @@ void CCalendarLogicBuild::_MakeDateListWithType(std::vector<CCalendarSolarDateEx
   for (const CCalendarSolarDateEx& entry : source) {
     if (_NeedsMonthInterval(entry, display.size(), dayBefore)) {
       display.push_back(CCalendarSolarDateEx::IntervalTitle(entry.month));
-      display.insert(display.end(), kDaysOfWeek - 1, CCalendarSolarDateEx::IntervalFiller());
+      display.insert(display.end(), almara::kDaysOfWeek - 1,
+                     CCalendarSolarDateEx::IntervalFiller());
     }
     display.push_back(entry);
     dayBefore = dayBefore || !entry.IsBlank();
@@ -63,7 +61,7 @@ void CCalendarLogicBuild::_MakeDateListWithType(std::vector<CCalendarSolarDateEx
 bool CCalendarLogicBuild::_NeedsMonthInterval(const CCalendarSolarDateEx& entry,
                                               std::size_t displayed, bool dayBefore) const {
   return IsShowMonthInterval() && GetDispMonth() != eDispMonthDayStrip && entry.day == 1 &&
-         (displayed >= kDaysOfWeek || dayBefore);
+         (displayed >= almara::kDaysOfWeek || dayBefore);
 }
 
 void CCalendarLogicBuild::_TrimPagedDateList(std::vector<CCalendarSolarDateEx>& display, int added,

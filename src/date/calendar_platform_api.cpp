@@ -11,6 +11,14 @@ namespace {
 
 constexpr int kSecondsPerHour = 3600;
 
+// The local time of this moment, in storage that the process shares; null if the system cannot
+// tell.
+const std::tm* LocalNow() {
+  const std::time_t now = std::time(nullptr);
+  // NOLINTNEXTLINE(concurrency-mt-unsafe): one thread drives the engine.
+  return std::localtime(&now);
+}
+
 void Store(const CCalendarSolarDate& date, int& year, int& month, int& day, int& week) {
   year = date.year;
   month = date.month;
@@ -21,16 +29,11 @@ void Store(const CCalendarSolarDate& date, int& year, int& month, int& day, int&
 }  // namespace
 
 void CalendarPlatformApi::GetTodayDate(int& year, int& month, int& day, int& week) {
-  const std::time_t now = std::time(nullptr);
-  // NOLINTNEXTLINE(concurrency-mt-unsafe): one thread drives the engine.
-  const std::tm* local = std::localtime(&now);
+  const std::tm* local = LocalNow();
   if (local == nullptr) {
     return;
   }
-  Store(DateOf(*local), year, month, day, week);
-  if (g_mac_timezone == kTimeZoneUnknown) {
-    g_mac_timezone = static_cast<std::int32_t>(local->tm_gmtoff / kSecondsPerHour);
-  }
+  Store(almara::DateOf(*local), year, month, day, week);
 }
 
 void CalendarPlatformApi::FixDateAndGetWeek(int& year, int& month, int& day, int& week) {
@@ -40,7 +43,7 @@ void CalendarPlatformApi::FixDateAndGetWeek(int& year, int& month, int& day, int
 CCalendarSolarDate CalendarPlatformApi::GetNewDateByOffsetDays(CCalendarSolarDate date,
                                                                int offsetDays) {
   CCalendarSolarDate result{};
-  DayRun(date.year, date.month, date.day).DateAt(offsetDays, result);
+  almara::DayRun(date.year, date.month, date.day).DateAt(offsetDays, result);
   return result;
 }
 
@@ -48,10 +51,26 @@ bool CalendarPlatformApi::GetNewDateByOffsetDays(int year, int month, int day, i
                                                  int& outYear, int& outMonth, int& outDay,
                                                  int& outWeek) {
   CCalendarSolarDate date{};
-  if (DayRun(year, month, day).DateAt(offsetDays, date)) {
+  if (almara::DayRun(year, month, day).DateAt(offsetDays, date)) {
     Store(date, outYear, outMonth, outDay, outWeek);
   }
   return true;
 }
 
 double CalendarPlatformApi::PlatformGetTimeZoneValue() { return g_mac_timezone; }
+
+namespace almara {
+
+CCalendarSolarDate Today() {
+  CCalendarSolarDate today{};
+  CalendarPlatformApi::GetTodayDate(today.year, today.month, today.day, today.dayOfWeek);
+  return today;
+}
+
+std::int32_t MachineOffsetHours() {
+  const std::tm* local = LocalNow();
+  return local != nullptr ? static_cast<std::int32_t>(local->tm_gmtoff / kSecondsPerHour)
+                          : kTimeZoneUnknown;
+}
+
+}  // namespace almara

@@ -6,8 +6,8 @@
 
 #include <cstdint>
 
-// Offset of local civil time from universal time in whole hours, east positive. Used by the lunar
-// dates and the solar terms only.
+// Offset of local civil time from universal time in whole hours, east positive, in which lunar
+// dates and solar terms are reckoned. Only the engine's navigation sets it.
 extern std::int32_t g_mac_timezone;
 
 // The value of g_mac_timezone until it is known.
@@ -23,8 +23,6 @@ constexpr std::int32_t kTimeZoneUnknown = 10000;
 class CalendarPlatformApi {
  public:
   // Today's local date. The parameters keep their values if the system cannot tell the local time.
-  // The first successful call of the process fixes g_mac_timezone, if nothing has set it before, to
-  // the machine's offset of this moment truncated toward zero.
   static void GetTodayDate(int& year, int& month, int& day, int& week);
 
   // Normalises a date in place and tells its day of week; the incoming week is not read. The
@@ -44,5 +42,16 @@ class CalendarPlatformApi {
   // g_mac_timezone in hours as it is at the moment, 10000 while it is unknown.
   static double PlatformGetTimeZoneValue();
 };
+
+namespace almara {
+
+// Today's local date with its day of week; all zeroes if the system cannot tell the local time.
+CCalendarSolarDate Today();
+
+// The machine's offset from universal time at this moment in whole hours, truncated toward zero
+// (+5:30 gives 5, -3:30 gives -3); kTimeZoneUnknown if the system cannot tell the local time.
+std::int32_t MachineOffsetHours();
+
+}  // namespace almara
 
 #endif  // ALMARA_DATE_CALENDAR_PLATFORM_API_H_

@@ -11,6 +11,8 @@
 #include <memory>
 #include <unordered_map>
 
+namespace almara {
+
 // The answers given so far about dates, kept for good. A question is a variant (a language, a rule)
 // and a date's year, month and day, each any int; the day of week is no part of it. The memo grows
 // with every new question and never forgets. Not to be used from two threads at once.
@@ -40,8 +42,9 @@ class DateMemo {
   // The kept answer, null if there is none.
   const Answer* Find(std::int32_t variant, const CCalendarSolarDate& date) const {
     const PageKey key = KeyOf(variant, date);
-    const auto year = m_years.find(YearOf(key));
-    const Page* const page = year != m_years.end() ? year->second[MonthOf(key)].get() : nullptr;
+    const auto block = m_blocks.find(BlockOf(key));
+    const Page* const page =
+        block != m_blocks.end() ? block->second[SlotOfMonth(key)].get() : nullptr;
     const std::size_t slot = SlotOf(date);
     return page != nullptr && page->Keeps(slot) ? &page->answers[slot] : nullptr;
   }
@@ -49,7 +52,7 @@ class DateMemo {
   // Number of answers kept.
   std::size_t Size() const {
     std::size_t size = 0;
-    for (const auto& [key, pages] : m_years) {
+    for (const auto& [key, pages] : m_blocks) {
       for (const auto& page : pages) {
         size += page != nullptr ? std::bitset<kDaysOfPage>(page->kept).count() : 0;
       }
@@ -70,10 +73,10 @@ class DateMemo {
   // Variant, year, month, and the part of the day that does not select the answer within the page.
   using PageKey = std::array<std::int32_t, 4>;
 
-  // The pages of the months of a year. Years are few enough for their table to stay near the
-  // processor, so that an answer among a million waits for memory hardly more than once.
-  static constexpr std::uint32_t kMonthsOfYear = 16;
-  using Year = std::array<std::unique_ptr<Page>, kMonthsOfYear>;
+  // The pages of 16 months, those of a year among them. Blocks are few enough for their table to
+  // stay in cache, so that an answer among a million waits for memory hardly more than once.
+  static constexpr std::uint32_t kMonthsOfBlock = 16;
+  using MonthBlock = std::array<std::unique_ptr<Page>, kMonthsOfBlock>;
 
   struct HashOfKey {
     std::size_t operator()(const PageKey& key) const {
@@ -87,27 +90,27 @@ class DateMemo {
   };
 
   static PageKey KeyOf(std::int32_t variant, const CCalendarSolarDate& date) {
-    const std::uint32_t block = static_cast<std::uint32_t>(date.day) / kDaysOfPage;
-    return {variant, date.year, date.month, static_cast<std::int32_t>(block)};
+    const std::uint32_t page = static_cast<std::uint32_t>(date.day) / kDaysOfPage;
+    return {variant, date.year, date.month, static_cast<std::int32_t>(page)};
   }
 
   static std::size_t SlotOf(const CCalendarSolarDate& date) {
     return static_cast<std::uint32_t>(date.day) % kDaysOfPage;
   }
 
-  // The key with the part of the month alone that does not select the page within the year.
-  static PageKey YearOf(PageKey key) {
-    key[2] = static_cast<std::int32_t>(static_cast<std::uint32_t>(key[2]) / kMonthsOfYear);
+  // The key with the part of the month alone that does not select the page within the block.
+  static PageKey BlockOf(PageKey key) {
+    key[2] = static_cast<std::int32_t>(static_cast<std::uint32_t>(key[2]) / kMonthsOfBlock);
     return key;
   }
 
-  static std::size_t MonthOf(const PageKey& key) {
-    return static_cast<std::uint32_t>(key[2]) % kMonthsOfYear;
+  static std::size_t SlotOfMonth(const PageKey& key) {
+    return static_cast<std::uint32_t>(key[2]) % kMonthsOfBlock;
   }
 
   Page& PageOf(const PageKey& key) {
     if (m_lastPage == nullptr || key != m_lastKey) {
-      std::unique_ptr<Page>& page = m_years[YearOf(key)][MonthOf(key)];
+      std::unique_ptr<Page>& page = m_blocks[BlockOf(key)][SlotOfMonth(key)];
       if (page == nullptr) {
         page = std::make_unique<Page>();
       }
@@ -117,9 +120,11 @@ class DateMemo {
     return *m_lastPage;
   }
 
-  std::unordered_map<PageKey, Year, HashOfKey> m_years;
+  std::unordered_map<PageKey, MonthBlock, HashOfKey> m_blocks;
   PageKey m_lastKey{};
   Page* m_lastPage = nullptr;  // of m_lastKey
 };
+
+}  // namespace almara
 
 #endif  // ALMARA_DATE_DATE_MEMO_H_

@@ -3,9 +3,7 @@
 
 #include "date/int32.h"
 
-using almara::WrapAdd;
-using almara::WrapMultiply;
-using almara::WrapSubtract;
+namespace almara {
 
 namespace {
 
@@ -35,3 +33,5 @@ bool DayRun::DateAt(int offset, CCalendarSolarDate& date) const {
   date = DateOf(local);
   return true;
 }
+
+}  // namespace almara

@@ -6,6 +6,8 @@
 
 #include <ctime>
 
+namespace almara {
+
 // Days counted from one local midnight of standard time, in steps of 86400 seconds. An hour of
 // daylight saving on the way moves the time of day only, never the day. The midnight is looked up
 // once for the whole run: asked again for the same day, the system gives the same instant.
@@ -25,5 +27,7 @@ class DayRun {
 
 // The date of a local time of the system.
 CCalendarSolarDate DateOf(const std::tm& local);
+
+}  // namespace almara
 
 #endif  // ALMARA_DATE_DAY_RUN_H_

@@ -115,7 +115,7 @@ EasterCache easterCache;
 // The Friday at or before a date. A date that the system cannot convert gives all zeroes.
 CCalendarSolarDate FridayBefore(CCalendarSolarDate date) {
   constexpr int kDaysOfWeek = 7;
-  const DayRun run(date.year, date.month, date.day);
+  const almara::DayRun run(date.year, date.month, date.day);
   for (int offset = 0; offset > -kDaysOfWeek; --offset) {
     CCalendarSolarDate earlier{};
     if (run.DateAt(offset, earlier) && earlier.dayOfWeek == eCalendarWeekFriday) {
@@ -135,7 +135,7 @@ int CCalendarFestivalFunction::_GetDayByWeekNumberOfMonth(int year, int month, i
   if (days < 0) {
     return -1;
   }
-  const DayRun run(year, month, 1);
+  const almara::DayRun run(year, month, 1);
   int count = 0;
   for (int offset = 0; offset <= days; ++offset) {
     CCalendarSolarDate date{};

@@ -7,6 +7,7 @@
 
 #include "board/standard_output.h"
 #include "date/calendar_platform_api.h"
+#include "date/gregorian.h"
 #include "date/int32.h"
 
 using almara::WrapAdd;
@@ -15,12 +16,35 @@ using almara::WrapSubtract;
 
 namespace {
 
-constexpr int kMonthsOfYear = 12;
+// The zone in which a language's calendar is reckoned, in hours east; kTimeZoneUnknown for a
+// language that fixes none.
+std::int32_t ZoneOfLanguage(ELanguage language) {
+  switch (language) {
+    case eLanguageChs:
+    case eLanguageCht:
+      return 8;
+    case eLanguageKor:
+    case eLanguageJpn:
+      return 9;
+    default:
+      return kTimeZoneUnknown;
+  }
+}
 
+// Sets the zone of lunar dates and solar terms, here and nowhere else: to the one given, or, while
+// no zone is known, to the machine's.
+void SetZone(std::int32_t hours) {
+  if (hours != kTimeZoneUnknown) {
+    g_mac_timezone = hours;
+  } else if (g_mac_timezone == kTimeZoneUnknown) {
+    g_mac_timezone = almara::MachineOffsetHours();
+  }
+}
+
+// Whatever asks for today fixes the zone, if no language has done so before.
 CCalendarSolarDate Today() {
-  CCalendarSolarDate today{};
-  CalendarPlatformApi::GetTodayDate(today.year, today.month, today.day, today.dayOfWeek);
-  return today;
+  SetZone(kTimeZoneUnknown);
+  return almara::Today();
 }
 
 CCalendarSolarDate DateByOffset(const CCalendarSolarDate& date, int offset) {
@@ -52,31 +76,31 @@ void WriteTrace(const char* prefix, const CCalendarSolarDate& date) {
 }  // namespace
 
 void CCalendarLogic::InitCalendarLogic(ELanguage language) {
-  switch (language) {
-    case eLanguageChs:
-    case eLanguageCht:
-      g_mac_timezone = 8;
-      break;
-    case eLanguageKor:
-    case eLanguageJpn:
-      g_mac_timezone = 9;
-      break;
-    default:
-      break;
+  SetZone(ZoneOfLanguage(language));
+  GotoToday();
+}
+
+// A board marks today, so that building one fixes the zone as asking for today does.
+void CCalendarLogic::_Show(int year, int month, int day) {
+  if (almara::IsBoardDate(year, month, day)) {
+    SetZone(kTimeZoneUnknown);
   }
-  _BuildCalendar(0, 0, 0);
+  _BuildCalendar(year, month, day);
 }
 
 void CCalendarLogic::Build() {
   const CCalendarSolarDate today = Today();
   if (m_focusYear == today.year && m_focusMonth == today.month && m_focusDay == today.day) {
-    _BuildCalendar(m_focusYear, m_focusMonth, m_focusDay);
+    _Show(m_focusYear, m_focusMonth, m_focusDay);
   } else {
-    _BuildCalendar(0, 0, 0);
+    GotoToday();
   }
 }
 
-void CCalendarLogic::GotoToday() { _BuildCalendar(0, 0, 0); }
+void CCalendarLogic::GotoToday() {
+  SetZone(kTimeZoneUnknown);
+  _BuildCalendar(0, 0, 0);
+}
 
 bool CCalendarLogic::_PagesByMonth() const {
   return GetDispMonth() == eDispMonthRollingTail || GetDispMonth() == eDispMonthWholeMonth;
@@ -89,7 +113,7 @@ void CCalendarLogic::GotoPreviousPage() {
   }
   const CCalendarSolarDate date = DateByOffset(m_firstDateItem.GetDate(), -1);
   m_pageDirection = ePageDirectionBackward;
-  _BuildCalendar(date.year, date.month, date.day);
+  _Show(date.year, date.month, date.day);
 }
 
 void CCalendarLogic::GotoNextPage() {
@@ -99,22 +123,22 @@ void CCalendarLogic::GotoNextPage() {
   }
   const CCalendarSolarDate date = DateByOffset(m_lastDateItem.GetDate(), 1);
   m_pageDirection = ePageDirectionForward;
-  _BuildCalendar(date.year, date.month, date.day);
+  _Show(date.year, date.month, date.day);
 }
 
 void CCalendarLogic::_GotoPreviousMonth() {
   if (m_focusMonth == 1) {
-    _BuildCalendar(m_focusYear - 1, kMonthsOfYear, 1);
+    _Show(m_focusYear - 1, almara::kMonthsOfYear, 1);
   } else {
-    _BuildCalendar(m_focusYear, m_focusMonth - 1, 1);
+    _Show(m_focusYear, m_focusMonth - 1, 1);
   }
 }
 
 void CCalendarLogic::_GotoNextMonth() {
-  if (m_focusMonth >= kMonthsOfYear) {
-    _BuildCalendar(m_focusYear + 1, 1, 1);
+  if (m_focusMonth >= almara::kMonthsOfYear) {
+    _Show(m_focusYear + 1, 1, 1);
   } else {
-    _BuildCalendar(m_focusYear, m_focusMonth + 1, 1);
+    _Show(m_focusYear, m_focusMonth + 1, 1);
   }
 }
 
@@ -129,7 +153,7 @@ void CCalendarLogic::GotoSpecifiedDate(int year, int month, int day) {
       m_pageDirection = ePageDirectionNone;
     }
   }
-  _BuildCalendar(year, month, day);
+  _Show(year, month, day);
 }
 
 void CCalendarLogic::GotoTodayOffsetMonth(int offset) {
@@ -144,19 +168,19 @@ void CCalendarLogic::GotoTodayOffsetMonth(int offset) {
 // A month outside 1900 to 2099 has no length here, so its day is -1 and the build rejects it.
 void CCalendarLogic::_GotoMonthOffset(const CCalendarSolarDate& today, int offset) {
   const int monthsFromStart = WrapSubtract(WrapAdd(today.month, offset), 1);
-  const int year = today.year + FloorDivide(monthsFromStart, kMonthsOfYear);
-  const int month = FloorModulo(monthsFromStart, kMonthsOfYear) + 1;
+  const int year = today.year + FloorDivide(monthsFromStart, almara::kMonthsOfYear);
+  const int month = FloorModulo(monthsFromStart, almara::kMonthsOfYear) + 1;
   const int day = std::min(today.day, _GetMaxDaysOfSolarMonth(year, month));
   WriteTrace("", {year, month, day, 0});
-  _BuildCalendar(year, month, day);
+  _Show(year, month, day);
 }
 
 void CCalendarLogic::_GotoPageOffset(const CCalendarSolarDate& today, int offset) {
-  const int days = WrapMultiply(WrapMultiply(kDaysOfWeek, GetMaxRows()), offset);
+  const int days = WrapMultiply(WrapMultiply(almara::kDaysOfWeek, GetMaxRows()), offset);
   const CCalendarSolarDate date = DateByOffset(today, days);
   m_pageDirection = ePageDirectionNone;
   WriteTrace("build-logic ", date);
-  _BuildCalendar(date.year, date.month, date.day);
+  _Show(date.year, date.month, date.day);
 }
 
 CCalendarItem CCalendarLogic::GetContentItem(int row, int column) const {
@@ -167,14 +191,14 @@ CCalendarItem CCalendarLogic::GetContentItem(int row, int column) const {
 }
 
 int CCalendarLogic::GetCalendarWeekByColumns(int column) const {
-  if (column < 0 || column >= kDaysOfWeek) {
+  if (column < 0 || column >= almara::kDaysOfWeek) {
     return 0;
   }
   if (GetDispMonth() == eDispMonthDayStrip) {
     return GetContentItem(0, column).GetDate().dayOfWeek;
   }
   const int boardColumn = static_cast<int>(_VisibleColumn(column));
-  return WrapAdd(GetStartDayOfWeek(), boardColumn) % kDaysOfWeek;
+  return WrapAdd(GetStartDayOfWeek(), boardColumn) % almara::kDaysOfWeek;
 }
 
 tagCalendarWeekSpan CCalendarLogic::GetWeekNumberItem(int index) const {

@@ -84,16 +84,17 @@ class CCalendarLogic : public CCalendarLogicBuild {
   using KeptCode = std::int16_t;
 
   // Answers by date, those of the festivals by language and date.
-  DateMemo<CCalendarLunarDate> m_mapLunarDateCache;
-  DateMemo<KeptCode> m_map24SekkiCache;
-  DateMemo<KeptCode> m_mapFestivalSolarCache;
-  DateMemo<KeptCode> m_mapFestivalLunarCache;
+  almara::DateMemo<CCalendarLunarDate> m_mapLunarDateCache;
+  almara::DateMemo<KeptCode> m_map24SekkiCache;
+  almara::DateMemo<KeptCode> m_mapFestivalSolarCache;
+  almara::DateMemo<KeptCode> m_mapFestivalLunarCache;
 
   CCalendarFestival m_festival;  // asks this object for lunar dates
   CCalendarLunarSolarTerms m_lunarSolarTerms;
   LunarQuarterMemo m_lunarQuarters;  // work that the lunar dates of a quarter share
 
  private:
+  void _Show(int year, int month, int day);
   bool _PagesByMonth() const;
   void _GotoMonthOffset(const CCalendarSolarDate& today, int offset);
   void _GotoPageOffset(const CCalendarSolarDate& today, int offset);

@@ -191,15 +191,13 @@ TEST(GetTodayDate, IsTheLocalDateWithItsWeekday) {
   EXPECT_EQ(today.week, 5);
 }
 
-TEST(GetTodayDate, KeepsItsParametersAndTheZoneWhenThereIsNoLocalTime) {
-  g_mac_timezone = kTimeZoneUnknown;
+TEST(GetTodayDate, KeepsItsParametersWhenThereIsNoLocalTime) {
   SetNow(kNoLocalTime);
   const Today today = GetToday();
   EXPECT_EQ(today.year, 1);
   EXPECT_EQ(today.month, 2);
   EXPECT_EQ(today.day, 3);
   EXPECT_EQ(today.week, 4);
-  EXPECT_EQ(g_mac_timezone, kTimeZoneUnknown);
 }
 
 TEST(TimeZoneValue, IsTheSentinelUntilSomethingSetsIt) { EXPECT_EQ(g_zoneAtLoad, 10000); }
@@ -234,31 +232,33 @@ constexpr ZoneCase kZoneCases[] = {
     {"Australia/Lord_Howe", 7, 10},  // +10:30, half an hour less
 };
 
-TEST(TimeZoneValue, FirstTodaySetsTheOffsetOfTheMomentTruncatedTowardZero) {
+TEST(MachineOffsetHours, IsTheOffsetOfTheMomentTruncatedTowardZero) {
   for (const ZoneCase& c : kZoneCases) {
     SCOPED_TRACE(testing::Message() << c.zone << ", month " << c.month);
     const ScopedZone zone(c.zone);
     SetToday(2024, c.month, 15);
-    g_mac_timezone = kTimeZoneUnknown;
-    GetToday();
-    EXPECT_EQ(g_mac_timezone, c.hours);
+    EXPECT_EQ(almara::MachineOffsetHours(), c.hours);
   }
 }
 
-TEST(TimeZoneValue, TodaySetsItOnlyOnce) {
-  g_mac_timezone = kTimeZoneUnknown;
-  GetToday();
-  EXPECT_EQ(g_mac_timezone, 0);
-  const ScopedZone shanghai("Asia/Shanghai");
-  GetToday();
-  EXPECT_EQ(g_mac_timezone, 0);
+TEST(MachineOffsetHours, IsUnknownWhenThereIsNoLocalTime) {
+  SetNow(kNoLocalTime);
+  EXPECT_EQ(almara::MachineOffsetHours(), kTimeZoneUnknown);
 }
 
-TEST(TimeZoneValue, TodayKeepsAValueSetByTheLanguage) {
-  g_mac_timezone = 9;
-  const ScopedZone berlin("NOWHERE-1");
-  GetToday();
-  EXPECT_EQ(g_mac_timezone, 9);
+TEST(Today, IsTheDateOrAllZeroes) {
+  SetToday(2024, 3, 13);
+  const CCalendarSolarDate today = almara::Today();
+  EXPECT_EQ(today.year, 2024);
+  EXPECT_EQ(today.month, 3);
+  EXPECT_EQ(today.day, 13);
+  EXPECT_EQ(today.dayOfWeek, eCalendarWeekWednesday);
+  SetNow(kNoLocalTime);
+  const CCalendarSolarDate none = almara::Today();
+  EXPECT_EQ(none.year, 0);
+  EXPECT_EQ(none.month, 0);
+  EXPECT_EQ(none.day, 0);
+  EXPECT_EQ(none.dayOfWeek, 0);
 }
 
 }  // namespace

@@ -9,6 +9,8 @@
 #include <stdexcept>
 #include <vector>
 
+using almara::DateMemo;
+
 namespace {
 
 constexpr std::int32_t kMin = std::numeric_limits<std::int32_t>::min();

@@ -6,6 +6,9 @@
 #include "date/day_run.h"
 #include "yardstick/days.h"
 
+using almara::DateOf;
+using almara::DayRun;
+
 namespace {
 
 constexpr int kSecondsPerDay = 86400;

@@ -12,6 +12,7 @@
 #include "support/board.h"
 #include "support/capture_stdout.h"
 #include "support/clock.h"
+#include "support/zone.h"
 
 using almara_test::Board;
 using almara_test::CaptureStdout;
@@ -84,6 +85,36 @@ TEST_F(Logic, LanguageWithoutAZoneTakesTheMachinesOnceOnly) {
   m_engine.InitCalendarLogic(eLanguageJpn);
   EXPECT_EQ(g_mac_timezone, 9);
   m_engine.InitCalendarLogic(eLanguageUsa);
+  EXPECT_EQ(g_mac_timezone, 9);
+}
+
+// Whatever asks for today, or builds a board, which marks today, makes the zone known.
+TEST_F(Logic, TheZoneBecomesKnownWithTheFirstToday) {
+  const almara_test::ScopedZone zone("NOWHERE-5:45");
+  const auto zoneAfter = [this](auto&& call) {
+    g_mac_timezone = kTimeZoneUnknown;
+    call(m_engine);
+    return g_mac_timezone;
+  };
+  EXPECT_EQ(zoneAfter([](Board& b) { b.InitCalendarLogic(eLanguageUsa); }), 5);
+  EXPECT_EQ(zoneAfter([](Board& b) { b.Build(); }), 5);
+  EXPECT_EQ(zoneAfter([](Board& b) { b.GotoToday(); }), 5);
+  EXPECT_EQ(zoneAfter([](Board& b) { b.GotoNextPage(); }), 5);
+  EXPECT_EQ(zoneAfter([](Board& b) { b.GotoPreviousPage(); }), 5);
+  EXPECT_EQ(zoneAfter([](Board& b) { b._GotoNextMonth(); }), 5);
+  EXPECT_EQ(zoneAfter([](Board& b) { b._GotoPreviousMonth(); }), 5);
+  EXPECT_EQ(zoneAfter([](Board& b) { b.GotoSpecifiedDate(2024, 3, 13); }), 5);
+  EXPECT_EQ(zoneAfter([](Board& b) { b.GotoTodayOffsetMonth(1000000); }), 5);
+  EXPECT_EQ(zoneAfter([](Board& b) { b.GetToday(); }), 5);
+  EXPECT_EQ(zoneAfter([](Board& b) { b.GotoSpecifiedDate(1899, 12, 31); }), kTimeZoneUnknown);
+  EXPECT_EQ(zoneAfter([](Board& b) { b.GetContentDate(); }), kTimeZoneUnknown);
+}
+
+TEST_F(Logic, TodayKeepsTheZoneThatIsKnown) {
+  const almara_test::ScopedZone zone("NOWHERE-1");
+  g_mac_timezone = 9;
+  m_engine.GetToday();
+  m_engine.GotoToday();
   EXPECT_EQ(g_mac_timezone, 9);
 }
 
