@@ -18,12 +18,15 @@ set(ALMARA_ENGINE_SOURCES
   lunar/calendar_lunar_solar_terms.cpp
   lunar/date_key.cpp
   lunar/ecliptic_longitude.cpp
+  lunar/historical_year.cpp
   lunar/julian_date.cpp
   lunar/longitude_search.cpp
+  lunar/lunar_date.cpp
+  lunar/lunar_memo.cpp
   lunar/lunar_quarter.cpp
-  lunar/lunar_quarter_memo.cpp
   lunar/sekki_longitude.cpp
   lunar/sekki_lookup.cpp
+  lunar/sekki_year.cpp
   festival/calendar_festival.cpp
   festival/calendar_festival_function.cpp
   festival/lunar_festival_rules.cpp

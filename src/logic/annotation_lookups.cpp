@@ -1,20 +1,25 @@
 // SPDX-License-Identifier: MIT
+#include "date/calendar_platform_api.h"
 #include "logic/calendar_logic.h"
+#include "lunar/lunar_date.h"
+#include "lunar/sekki_lookup.h"
 
 namespace {
 
 constexpr int kNoLanguage = 0;  // of questions that depend on the date alone
 
+double Zone() { return CalendarPlatformApi::PlatformGetTimeZoneValue(); }
+
 }  // namespace
 
 CCalendarLunarDate CCalendarLogic::ConverterLunar(CCalendarSolarDate date) {
   return m_mapLunarDateCache.GetOrCompute(
-      kNoLanguage, date, [&] { return m_lunarSolarTerms.Converter(date, m_lunarQuarters); });
+      kNoLanguage, date, [&] { return almara::LunarDateOf(date, Zone(), m_lunarMemo); });
 }
 
 ESolarKyureki24 CCalendarLogic::Check24Sekki(CCalendarSolarDate date) {
   return m_map24SekkiCache.GetOrCompute(kNoLanguage, date, [&] {
-    return static_cast<KeptCode>(m_lunarSolarTerms.Check24Sekki(date.year, date.month, date.day));
+    return static_cast<KeptCode>(almara::SekkiOf(date, Zone(), m_lunarMemo));
   });
 }
 

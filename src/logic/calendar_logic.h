@@ -10,7 +10,7 @@
 #include "date/date_memo.h"
 #include "festival/calendar_festival.h"
 #include "lunar/calendar_lunar_solar_terms.h"
-#include "lunar/lunar_quarter_memo.h"
+#include "lunar/lunar_memo.h"
 
 // The engine as the host sees it: options and board by inheritance, and on top of them navigation,
 // queries of the built board and the annotation of dates.
@@ -89,9 +89,9 @@ class CCalendarLogic : public CCalendarLogicBuild {
   almara::DateMemo<KeptCode> m_mapFestivalSolarCache;
   almara::DateMemo<KeptCode> m_mapFestivalLunarCache;
 
-  CCalendarFestival m_festival;  // asks this object for lunar dates
-  CCalendarLunarSolarTerms m_lunarSolarTerms;
-  LunarQuarterMemo m_lunarQuarters;  // work that the lunar dates of a quarter share
+  CCalendarFestival m_festival;                // asks this object for lunar dates
+  CCalendarLunarSolarTerms m_lunarSolarTerms;  // interface; the look-ups ask lunar/ themselves
+  almara::LunarMemo m_lunarMemo;               // work that the look-ups of days share
 
  private:
   void _Show(int year, int month, int day);

@@ -3,7 +3,11 @@
 
 #include "date/decimal_text.h"
 
+namespace almara {
+
 std::string DateKey(CCalendarSolarDate date) {
-  char text[3 * almara::kMaxDecimalLength + 2];
-  return {text, almara::AppendDate(text, date.year, date.month, date.day)};
+  char text[3 * kMaxDecimalLength + 2];
+  return {text, AppendDate(text, date.year, date.month, date.day)};
 }
+
+}  // namespace almara

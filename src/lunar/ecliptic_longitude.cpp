@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
+#include "lunar/ecliptic_longitude.h"
+
 #include <cmath>
+#include <cstddef>
 #include <iterator>
 
-#include "lunar/calendar_lunar_converter.h"
 #include "lunar/truncated.h"
 
+namespace almara {
 namespace {
 
 constexpr double kRadiansPerDegree = 0.017453292519943295;
 
-// One periodic term: amplitude * cos(rate * t + phase).
+// One periodic term: amplitude * cos(rate * t + phase), t in Julian centuries.
 struct PeriodicTerm {
   double amplitude = 0;  // degrees
   double rate = 0;       // degrees per Julian century
@@ -17,8 +20,9 @@ struct PeriodicTerm {
   bool growing = false;  // the amplitude is per Julian century, to be multiplied by t
 };
 
-// The Sun's periodic terms in the order of summation, smallest first. CCalendarLunarSolarTerms has
-// a series of its own, which differs from this one in the rate and phase of the growing term.
+// The Sun's periodic terms from 0.0004 degrees on, in the order of summation, smallest first. The
+// solar terms have a series of their own (sekki_longitude.h), which differs from this one in the
+// rate and phase of the growing term.
 constexpr PeriodicTerm kSunTerms[] = {
     // 1 to 10
     {0.0004, 31557, 161},
@@ -42,7 +46,8 @@ constexpr PeriodicTerm kSunTerms[] = {
 };
 static_assert(std::size(kSunTerms) == 16);
 
-// The Moon's periodic terms in the order of summation, smallest first.
+// The Moon's periodic terms from 0.0003 degrees on, in the order of summation, smallest first. Row
+// 33 holds the nutation in longitude that goes with the Moon's node.
 constexpr PeriodicTerm kMoonTerms[] = {
     // 1 to 10
     {0.0003, 2322131, 191},
@@ -126,7 +131,7 @@ double Sum(const PeriodicTerm (&terms)[count], double t) {
   double sum = 0;
   for (const PeriodicTerm& term : terms) {
     const double amplitude = term.growing ? term.amplitude * t : term.amplitude;
-    const double angle = CCalendarLunarConverter::_NORMALIZATION_ANGLE(term.rate * t + term.phase);
+    const double angle = NormalizedAngle(term.rate * t + term.phase);
     sum += amplitude * std::cos(angle * kRadiansPerDegree);
   }
   return sum;
@@ -134,8 +139,6 @@ double Sum(const PeriodicTerm (&terms)[count], double t) {
 
 }  // namespace
 
-// Reduces an angle to one turn.
-//
 // Given
 //   angle   degrees
 // Returned
@@ -143,46 +146,52 @@ double Sum(const PeriodicTerm (&terms)[count], double t) {
 //   multiple of 360 gives 360, not 0; the longitudes rely on the asymmetry.
 // Span
 //   as long as angle / 360 fits 32 bits, 7.7e11 degrees either way
-double CCalendarLunarConverter::_NORMALIZATION_ANGLE(double angle) {
+double NormalizedAngle(double angle) {
   if (angle < 0) {
     return angle + 360 * Truncated(angle / -360) + 360;
   }
   return angle - 360 * Truncated(angle / 360);
 }
 
-// Apparent ecliptic longitude of the Sun.
-//
 // Given
-//   t   Julian centuries from 2451545.0
+//   centuries   Julian centuries from 2000-01-01 12:00
 // Returned
-//   degrees, 0 to 360; 360 itself only by rounding
+//   degrees, 0 to 360 (360 itself only by rounding); nutation and aberration are left out
 // Time scale
 //   universal time, without a correction to dynamical time
 // Measured error
-//   within 0.012 degrees of Swiss Ephemeris' built-in ephemeris from 1800 to 2099; nutation and
-//   aberration are left out
+//   within 0.012 degrees of Swiss Ephemeris' built-in ephemeris from 1800 to 2099
 // Span
 //   every double, but far away the longitude means nothing: the growing term reaches a degree 200
 //   centuries from 2000, and from about 11,500 centuries on the Sun stands still and turns back at
 //   times. Beyond 1.7 million centuries the turns of an angle leave 32 bits.
-double CCalendarLunarConverter::_LONGITUDE_SUN(double t) {
-  const double mean = _NORMALIZATION_ANGLE(_NORMALIZATION_ANGLE(36000.7695 * t) + 280.4659);
-  return _NORMALIZATION_ANGLE(Sum(kSunTerms, t) + mean);
+// Reference
+//   S. Newcomb, Tables of the Motion of the Earth on its Axis and around the Sun (Astronomical
+//   Papers of the American Ephemeris VI), 1895: the mean longitude and the equation of the centre,
+//   carried from 1900 to 2000, to every digit kept. The perturbations are Newcomb's within two
+//   degrees of phase; who cut them so is not identified.
+double SunLongitude(double centuries) {
+  const double mean = NormalizedAngle(NormalizedAngle(36000.7695 * centuries) + 280.4659);
+  return NormalizedAngle(Sum(kSunTerms, centuries) + mean);
 }
 
-// Apparent ecliptic longitude of the Moon.
-//
 // Given
-//   t   Julian centuries from 2451545.0
+//   centuries   Julian centuries from 2000-01-01 12:00
 // Returned
-//   degrees, 0 to 360; 360 itself only by rounding
+//   degrees, 0 to 360 (360 itself only by rounding)
 // Time scale
 //   universal time, without a correction to dynamical time
 // Measured error
 //   within 0.019 degrees of Swiss Ephemeris' built-in ephemeris from 1800 to 2099
 // Span
 //   every double; beyond 330,000 centuries the turns of an angle leave 32 bits
-double CCalendarLunarConverter::_LONGITUDE_MOON(double t) {
-  const double mean = _NORMALIZATION_ANGLE(_NORMALIZATION_ANGLE(481267.8809 * t) + 218.3162);
-  return _NORMALIZATION_ANGLE(Sum(kMoonTerms, t) + mean);
+// Reference
+//   Improved Lunar Ephemeris 1952-1959, Washington 1954, which is E. W. Brown's theory of the Moon:
+//   the mean longitude, carried from 1900 to 2000, to every digit kept, and the large amplitudes to
+//   0.0001 degrees. Who cut the series so is not identified.
+double MoonLongitude(double centuries) {
+  const double mean = NormalizedAngle(NormalizedAngle(481267.8809 * centuries) + 218.3162);
+  return NormalizedAngle(Sum(kMoonTerms, centuries) + mean);
 }
+
+}  // namespace almara

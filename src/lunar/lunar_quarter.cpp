@@ -3,59 +3,57 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 #include "date/int32.h"
+#include "lunar/julian_date.h"
 #include "lunar/truncated.h"
 
-using almara::TruncateToInt32;
-using almara::WrapAdd;
-using almara::WrapSubtract;
-
+namespace almara {
 namespace {
 
 using PrincipalTerms = decltype(LunarQuarter::terms);
 using NewMoons = decltype(LunarQuarter::moons);
 using LunarMonths = decltype(LunarQuarter::months);
 
-// The solstice or equinox at or before dayCount and the three principal terms behind it. False if a
+// The solstice or equinox at or before dayCount and the three principal terms after it. None if a
 // search does not settle.
-bool FindPrincipalTerms(double dayCount, PrincipalTerms& terms) {
-  tagSolarKyurekiNibun nibun{};
-  if (CCalendarLunarConverter::_before_nibun(dayCount, &nibun) == 0) {
-    return false;
-  }
-  terms[0] = {nibun.time, nibun.longitude};
-  for (std::size_t k = 1; k < terms.size(); ++k) {
-    if (CCalendarLunarConverter::_calc_chu(terms[k - 1].time + 32, &terms[k]) == 0) {
-      return false;
+std::optional<PrincipalTerms> FindPrincipalTerms(double dayCount, double zone) {
+  PrincipalTerms terms{};
+  std::optional<SunCrossing> found = SeasonBefore(dayCount, zone);
+  for (std::size_t k = 0; found.has_value(); ++k) {
+    terms[k] = *found;
+    if (k + 1 == terms.size()) {
+      return terms;
     }
+    found = PrincipalTermBefore(found->time + 32, zone);
   }
-  return true;
+  return std::nullopt;
 }
 
 // Five new moons in a row, the first one next to firstTerm.
-NewMoons FindNewMoons(double firstTerm) {
+NewMoons FindNewMoons(double firstTerm, double zone) {
   NewMoons moons{};
-  moons[0] = CCalendarLunarConverter::_calc_saku(firstTerm);
+  moons[0] = NewMoonBefore(firstTerm, zone);
   for (std::size_t k = 1; k < moons.size(); ++k) {
-    moons[k] = CCalendarLunarConverter::_calc_saku(moons[k - 1] + 30);
+    moons[k] = NewMoonBefore(moons[k - 1] + 30, zone);
     // The same new moon found again.
     if (std::fabs(Truncated(moons[k - 1]) - Truncated(moons[k])) <= 26) {
-      moons[k] = CCalendarLunarConverter::_calc_saku(moons[k - 1] + 35);
+      moons[k] = NewMoonBefore(moons[k - 1] + 35, zone);
     }
   }
   return moons;
 }
 
 // Shifts the new moons by one where the month of firstTerm would not be the first of them.
-void AlignNewMoons(double firstTerm, NewMoons& moons) {
+void AlignNewMoons(double firstTerm, double zone, NewMoons& moons) {
   const double day = Truncated(firstTerm);
   if (Truncated(moons[1]) <= day) {
     std::copy(moons.begin() + 1, moons.end(), moons.begin());
-    moons[4] = CCalendarLunarConverter::_calc_saku(moons[3] + 35);
+    moons[4] = NewMoonBefore(moons[3] + 35, zone);
   } else if (Truncated(moons[0]) > day) {
     std::copy_backward(moons.begin(), moons.end() - 1, moons.end());
-    moons[0] = CCalendarLunarConverter::_calc_saku(moons[0] - 27);
+    moons[0] = NewMoonBefore(moons[0] - 27, zone);
   }
 }
 
@@ -83,7 +81,7 @@ LunarMonths NumberMonths(const PrincipalTerms& terms, const NewMoons& moons) {
   return months;
 }
 
-// The month that holds a day: the one before the first that begins behind it, or the one that
+// The month that holds a day: the one before the first that begins after it, or the one that
 // begins on it.
 const LunarMonth& MonthOfDay(const LunarMonths& months, int day) {
   for (std::size_t k = 0; k < months.size(); ++k) {
@@ -100,23 +98,22 @@ const LunarMonth& MonthOfDay(const LunarMonths& months, int day) {
 // The lunar year of a day: its Gregorian year, or the one before while a month 10 to 12 that began
 // there lasts into the Gregorian year.
 int LunarYear(double dayCount, int lunarMonth) {
-  tagSolarKyurekiYMDT date{};
-  CCalendarLunarConverter::_JD2YMDT(dayCount, &date);
+  const tagSolarKyurekiYMDT date = DateOfDayCount(dayCount);
   const int year = TruncateToInt32(date.year);
   return lunarMonth >= 10 && date.month < lunarMonth ? WrapSubtract(year, 1) : year;
 }
 
 }  // namespace
 
-bool FindLunarQuarter(double dayCount, LunarQuarter& quarter) {
-  if (!FindPrincipalTerms(dayCount, quarter.terms)) {
-    return false;
+std::optional<LunarQuarter> FindLunarQuarter(double dayCount, double zone) {
+  const std::optional<PrincipalTerms> terms = FindPrincipalTerms(dayCount, zone);
+  if (!terms.has_value()) {
+    return std::nullopt;
   }
-  const double firstTerm = quarter.terms.front().time;
-  quarter.moons = FindNewMoons(firstTerm);
-  AlignNewMoons(firstTerm, quarter.moons);
-  quarter.months = NumberMonths(quarter.terms, quarter.moons);
-  return true;
+  const double firstTerm = terms->front().time;
+  NewMoons moons = FindNewMoons(firstTerm, zone);
+  AlignNewMoons(firstTerm, zone, moons);
+  return LunarQuarter{*terms, moons, NumberMonths(*terms, moons)};
 }
 
 CCalendarLunarDate LunarDateInQuarter(const LunarQuarter& quarter, double dayCount) {
@@ -125,3 +122,5 @@ CCalendarLunarDate LunarDateInQuarter(const LunarQuarter& quarter, double dayCou
   return {LunarYear(dayCount, month.number), month.number,
           WrapAdd(WrapSubtract(day, month.start), 1), 0, month.leap};
 }
+
+}  // namespace almara

@@ -2,9 +2,14 @@
 #ifndef ALMARA_LUNAR_LUNAR_QUARTER_H_
 #define ALMARA_LUNAR_LUNAR_QUARTER_H_
 
-#include <array>
+#include <almara/almara_types.h>
 
-#include "lunar/calendar_lunar_converter.h"
+#include <array>
+#include <optional>
+
+#include "lunar/longitude_search.h"
+
+namespace almara {
 
 // A lunar month.
 struct LunarMonth {
@@ -16,16 +21,18 @@ struct LunarMonth {
 // The quarter of a solar year from a solstice or equinox to the next, with the lunar months around
 // it. All days of a quarter have the same months.
 struct LunarQuarter {
-  std::array<tagSolarKyurekiChu, 4> terms;  // principal terms, the last one opens the next quarter
-  std::array<double, 5> moons;              // day counts of the new moons
-  std::array<LunarMonth, 5> months;         // those that begin with the new moons
+  std::array<SunCrossing, 4> terms;  // principal terms, the last one opens the next quarter
+  std::array<double, 5> moons;       // day counts of the new moons
+  std::array<LunarMonth, 5> months;  // those that begin with the new moons
 };
 
-// Finds the quarter that holds a local day count, in the zone in force. False, with quarter
-// unusable, if a search does not settle, which happens only millions of years away.
-bool FindLunarQuarter(double dayCount, LunarQuarter& quarter);
+// Finds the quarter that holds a local day count; the zone is in hours. None if a search does not
+// settle, which happens only millions of years away.
+std::optional<LunarQuarter> FindLunarQuarter(double dayCount, double zone);
 
 // The lunar date of a day count of the quarter.
 CCalendarLunarDate LunarDateInQuarter(const LunarQuarter& quarter, double dayCount);
+
+}  // namespace almara
 
 #endif  // ALMARA_LUNAR_LUNAR_QUARTER_H_

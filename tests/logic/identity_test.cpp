@@ -13,6 +13,7 @@
 
 #include "date/calendar_platform_api.h"
 #include "logic/calendar_logic.h"
+#include "lunar/julian_date.h"
 #include "lunar/lunar_quarter.h"
 #include "yardstick/days.h"
 #include "yardstick/engine.h"
@@ -40,7 +41,7 @@ class IdentityInZone : public testing::TestWithParam<int> {
 // midnight, where it would move a month by a day. Both in seconds.
 class Margins {
  public:
-  void Add(const LunarQuarter& quarter) {
+  void Add(const almara::LunarQuarter& quarter) {
     const bool sameQuarter = std::fabs(quarter.terms[0].time - m_first.terms[0].time) < 1;
     if (!sameQuarter) {
       m_first = quarter;
@@ -66,7 +67,7 @@ class Margins {
     m_nearestToMidnight = std::min(m_nearestToMidnight, toMidnight);
   }
 
-  LunarQuarter m_first{};
+  almara::LunarQuarter m_first{};
   double m_largestDifference = 0;
   double m_nearestToMidnight = kSecondsPerDay;
 };
@@ -77,13 +78,12 @@ TEST_P(IdentityInZone, LunarDates) {
   Margins margins;
   int checked = 0;
   for (const CCalendarSolarDate& day : DaysOfYears(kFirstYear, kLastYear)) {
-    const double dayCount =
-        CCalendarLunarConverter::_YMDT2JD(day.year, day.month, day.day, 0, 0, 0);
-    LunarQuarter quarter;
-    ASSERT_TRUE(FindLunarQuarter(dayCount, quarter));
-    margins.Add(quarter);
+    const double dayCount = almara::DayCount(day.year, day.month, day.day);
+    const auto quarter = almara::FindLunarQuarter(dayCount, GetParam());
+    ASSERT_TRUE(quarter.has_value());
+    margins.Add(*quarter);
     const CCalendarLunarDate expected =
-        day.year == kCorrectedYear ? plain.Converter(day) : LunarDateInQuarter(quarter, dayCount);
+        day.year == kCorrectedYear ? plain.Converter(day) : LunarDateInQuarter(*quarter, dayCount);
     ASSERT_TRUE(engine.ConverterLunar(day) == expected)
         << day.year << '-' << day.month << '-' << day.day;
     ++checked;

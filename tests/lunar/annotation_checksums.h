@@ -7,7 +7,7 @@
 #include "checksum.h"
 #include "gregorian_days.h"
 #include "lunar/calendar_lunar_solar_terms.h"
-#include "lunar/lunar_quarter_memo.h"
+#include "lunar/lunar_date.h"
 #include "zone_guard.h"
 
 constexpr int kFirstZone = -12;
@@ -24,12 +24,10 @@ inline std::uint64_t ChecksumOfLunarDates(int zone) {
 
 // The same where the days of a quarter share its months, as they do in the engine.
 inline std::uint64_t ChecksumOfSharedLunarDates(int zone) {
-  const ZoneGuard guard(zone);
-  const CCalendarLunarConverter converter;
-  LunarQuarterMemo memo;
+  almara::LunarMemo memo;
   Checksum checksum;
   ForEachDay(1900, 2099,
-             [&](CCalendarSolarDate date) { checksum.Add(converter.Converter(date, memo)); });
+             [&](CCalendarSolarDate date) { checksum.Add(almara::LunarDateOf(date, zone, memo)); });
   return checksum.Value();
 }
 

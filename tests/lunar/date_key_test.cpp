@@ -5,6 +5,8 @@
 
 #include <limits>
 
+using almara::DateKey;
+
 namespace {
 
 constexpr int kMin = std::numeric_limits<int>::min();

@@ -8,9 +8,8 @@
 #include <thread>
 #include <vector>
 
-#include "date/calendar_platform_api.h"
-#include "lunar/calendar_lunar_solar_terms.h"
-#include "lunar/lunar_quarter_memo.h"
+#include "lunar/lunar_date.h"
+#include "lunar/sekki_lookup.h"
 #include "robustness/failures_to_stderr.h"
 #include "support/board.h"
 #include "support/capture_stdout.h"
@@ -65,17 +64,17 @@ TEST(Concurrency, BuildsOfSeveralBoardsExcludeEachOther) {
 }
 
 TEST(Concurrency, ConvertersOfSeveralThreadsAnswerAlike) {
-  g_mac_timezone = 8;
+  constexpr double kZone = 8;
   std::vector<std::string> answers(kThreads);
   OnEveryThread([&answers](int thread) {
-    CCalendarLunarSolarTerms converter;
-    LunarQuarterMemo memo;
+    almara::LunarMemo memo;
     std::string& text = answers[static_cast<std::size_t>(thread)];
     for (int day = 1; day <= 28; ++day) {
       for (int month = 1; month <= 12; ++month) {
-        const CCalendarLunarDate lunar = converter.Converter({2033, month, day, 0}, memo);
+        const CCalendarSolarDate date{2033, month, day, 0};
+        const CCalendarLunarDate lunar = almara::LunarDateOf(date, kZone, memo);
         text += std::to_string(lunar.month * 100 + lunar.day + 10000 * lunar.leap) + " " +
-                std::to_string(converter.Check24Sekki(2033, month, day)) + "\n";
+                std::to_string(almara::SekkiOf(date, kZone, memo)) + "\n";
       }
     }
   });

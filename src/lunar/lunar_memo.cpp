@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "lunar/lunar_quarter_memo.h"
+#include "lunar/lunar_memo.h"
 
-#include "date/calendar_platform_api.h"
+#include <optional>
 
+namespace almara {
 namespace {
 
 constexpr double kFirstSharedDay = 2378496;  // 1800-01-01
@@ -17,15 +18,15 @@ bool MayShare(double dayCount, double zone) {
 
 }  // namespace
 
-void LunarQuarterMemo::ForgetOtherZones(double zone) {
+void LunarMemo::ForgetOtherZones(double zone) {
   if (zone != m_zone) {
     m_quarters.clear();
+    m_sekkiDays.clear();
     m_zone = zone;
   }
 }
 
-const LunarQuarter* LunarQuarterMemo::QuarterOf(double dayCount) {
-  const double zone = CalendarPlatformApi::PlatformGetTimeZoneValue();
+const LunarQuarter* LunarMemo::QuarterOf(double dayCount, double zone) {
   const bool mayShare = MayShare(dayCount, zone);
   if (mayShare) {
     ForgetOtherZones(zone);
@@ -34,13 +35,23 @@ const LunarQuarter* LunarQuarterMemo::QuarterOf(double dayCount) {
       return &kept->second;
     }
   }
-  LunarQuarter quarter{};
-  if (!FindLunarQuarter(dayCount, quarter)) {
+  const std::optional<LunarQuarter> quarter = FindLunarQuarter(dayCount, zone);
+  if (!quarter.has_value()) {
     return nullptr;
   }
   if (!mayShare) {
-    m_unshared = quarter;
+    m_unshared = *quarter;
     return &m_unshared;
   }
-  return &m_quarters.emplace(quarter.terms.back().time, quarter).first->second;
+  return &m_quarters.emplace(quarter->terms.back().time, *quarter).first->second;
 }
+
+const SekkiDays& LunarMemo::SekkiDaysOf(int year, double zone) {
+  ForgetOtherZones(zone);
+  const auto kept = m_sekkiDays.find(year);
+  return kept != m_sekkiDays.end()
+             ? kept->second
+             : m_sekkiDays.emplace(year, SekkiDaysOfYear(year, zone)).first->second;
+}
+
+}  // namespace almara
