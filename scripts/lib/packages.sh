@@ -7,34 +7,29 @@
 declare -A PACKAGES=(
   [build]="g++ cmake ninja-build"
   [viewer]="libcli11-dev nlohmann-json3-dev libncurses-dev"
-  [tests]="libgtest-dev libgmock-dev libfaketime libicu-dev libswe-dev libglib2.0-dev pkg-config clang
-    valgrind libc6-dbg python3 python3-pexpect tmux tzdata abigail-tools"
-  [fuzzers]="clang libclang-rt-14-dev"
-  [matrix]="clang python3 g++-aarch64-linux-gnu qemu-user"
-  [mutation]="binutils git python3 util-linux"
+  [tests]="libgtest-dev libfaketime python3 python3-pexpect tmux tzdata"
+  [full]="libicu-dev libswe-dev libglib2.0-dev pkg-config clang libclang-rt-14-dev valgrind libc6-dbg
+    abigail-tools nodejs npm ca-certificates"
+  [emulation]="clang python3 g++-aarch64-linux-gnu qemu-user"
+  [mutation]="git python3 util-linux"
   [coverage]="gcovr"
   [docs]="doxygen"
   [packages]="build-essential debhelper dpkg-dev fakeroot lintian debootstrap git"
   [bench]="libbenchmark-dev libicu-dev libswe-dev python3 binutils util-linux"
   [analysis]="clang clang-tidy clang-format shellcheck python3 git"
 )
-# Node.js and npm come from many places; Debian's are taken only where there are none.
-if ! command -v node >/dev/null || ! command -v npm >/dev/null; then
-  PACKAGES[tests]+=" nodejs npm ca-certificates"
-fi
 
-# missing_packages <package>...: prints those that are not installed.
-missing_packages() {
-  local package
-  for package in "$@"; do
-    if [[ $(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null) != installed ]]; then
-      echo "$package"
-    fi
-  done
+# is_installed <package>. Node.js and npm may have come from elsewhere.
+is_installed() {
+  case $1 in
+    nodejs) ! command -v node >/dev/null || return 0 ;;
+    npm) ! command -v npm >/dev/null || return 0 ;;
+  esac
+  [[ $(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
 }
 
-# Follows apt-get's output: its errors, and a line for every twentieth step of each kind.
-show_apt_progress() {
+# A line for every twentieth step of each kind, of what apt-get says.
+show_progress() {
   awk '
     function step(what, count) {
       if (count % 20 == 0 || count == total) {
@@ -42,39 +37,44 @@ show_apt_progress() {
         fflush()
       }
     }
-    /newly installed/           { total = $1 + $3 }
-    /^Need to get/              { print "  " $4 " " $5 " to download"; fflush() }
-    /^Get:/ && total            { step("downloaded", ++got) }
-    /^Unpacking/                { step("unpacked", ++unpacked) }
-    /^Setting up/               { step("installed", ++installed) }
-    /^(E:|W:|Err:|dpkg: error)/ { print "  " $0; fflush() }' >&2
+    /newly installed/ { total = $1 + $3 }
+    /^Need to get/    { print "  " $4 " " $5 " to download"; fflush() }
+    /^Get:/ && total  { step("downloaded", ++got) }
+    /^Unpacking/      { step("unpacked", ++unpacked) }
+    /^Setting up/     { step("installed", ++installed) }' >&2
+}
+
+# apt_get <argument>...: asks nothing; shows the last errors and gives up where it fails.
+apt_get() {
+  local log
+  log=$(mktemp)
+  if ! "${AS_ROOT[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get -q -y -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=300 "$@" </dev/null 2>&1 |
+    tee "$log" | show_progress; then
+    grep -E '^(E:|Err:|dpkg: error)' "$log" | tail -n 3 >&2 || true
+    fail "apt-get $1 did not work; is there a network? Its messages are in $log"
+  fi
+  rm "$log"
 }
 
 # require_packages <purpose>...: installs what is missing for these purposes. Says nothing and asks
 # nobody when everything is there.
 require_packages() {
-  local purpose wanted=() missing as_root=()
+  local purpose package missing=()
+  command -v apt-get >/dev/null || return 0
   for purpose in "$@"; do
-    # shellcheck disable=SC2206 # one word for each package
-    wanted+=(${PACKAGES[$purpose]})
+    for package in ${PACKAGES[$purpose]}; do
+      is_installed "$package" || missing+=("$package")
+    done
   done
-  if ! command -v apt-get >/dev/null; then
-    say "No apt-get here; going on in the hope that these are installed: ${wanted[*]}"
-    return
-  fi
-  mapfile -t missing < <(missing_packages "${wanted[@]}" | sort -u)
-  if ((${#missing[@]} == 0)); then
-    return
-  fi
+  ((${#missing[@]})) || return 0
+  begin "Installing ${missing[*]}"
+  AS_ROOT=()
   if ((EUID != 0)); then
-    if ! command -v sudo >/dev/null; then
-      fail "not root and no sudo; have an administrator run: apt-get install ${missing[*]}"
-    fi
-    as_root=(sudo)
+    AS_ROOT=(sudo)
+    sudo true || fail "not root, and sudo does not work here; have an administrator run:" \
+      "apt-get install ${missing[*]}"
   fi
-  say "Installing ${missing[*]}"
-  as_root+=(env DEBIAN_FRONTEND=noninteractive apt-get -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=300)
-  "${as_root[@]}" -q update 2>&1 | show_apt_progress
-  "${as_root[@]}" -q -y --no-install-recommends install "${missing[@]}" </dev/null 2>&1 |
-    show_apt_progress
+  apt_get update
+  apt_get install --no-install-recommends "${missing[@]}"
 }
