@@ -1,16 +1,145 @@
 // SPDX-License-Identifier: MIT
 //
-// The calendar engine for Node.js: every function of <almara/almara.h>, ready to call. Records
-// travel by value as plain objects, and GetConfigKey() returns a string.
+// The calendar engine for Node.js: every function of <almara/almara.h>, which documents them, ready
+// to call, and every constant by its name. Records travel by value as plain objects, and
+// GetConfigKey() returns a string.
 'use strict';
 
 const koffi = require('koffi');
 
+// --- written by scripts/interface: declarations
 const records = {
   CCalendarSolarDate: 'year month day dayOfWeek',
   CCalendarLunarDate: 'year month day reserved leap',
   tagCalendarCell: 'year month day dayOfWeek weekNumber row column type',
   tagWeekNumberSpan: 'weekNumber secondWeekNumber rows',
+};
+
+const constants = {
+  eCalendarWeekSunday: 0,
+  eCalendarWeekMonday: 1,
+  eCalendarWeekTuesday: 2,
+  eCalendarWeekWednesday: 3,
+  eCalendarWeekThursday: 4,
+  eCalendarWeekFriday: 5,
+  eCalendarWeekSaturday: 6,
+  eCalendarItemEmpty: 1,
+  eCalendarItemBlank: 2,
+  eCalendarItemDay: 3,
+  eCalendarItemToday: 4,
+  eCalendarItemBreakDay: 5,
+  eCalendarItemTodayBreakDay: 6,
+  eCalendarItemMonthTitle: 7,
+  eDispMonthRollingWeeks: 1,
+  eDispMonthRollingTail: 2,
+  eDispMonthWholeMonth: 3,
+  eDispMonthDayStrip: 4,
+  eWeekNumberCalcFromJan1: 0,
+  eWeekNumberCalcIso8601: 1,
+  eWeekNumberCalcFromStartWeek: 2,
+  eLanguageChs: 1,
+  eLanguageKor: 2,
+  eLanguageUsa: 3,
+  eLanguageCht: 4,
+  eLanguageRus: 5,
+  eLanguageDeu: 6,
+  eLanguageJpn: 7,
+  eLanguageEng: 8,
+  eLanguageVit: 9,
+  eLanguageTha: 10,
+  eSekkiNone: -1,
+  eSekkiMinorCold: 0,
+  eSekkiMajorCold: 1,
+  eSekkiStartOfSpring: 2,
+  eSekkiRainWater: 3,
+  eSekkiAwakeningOfInsects: 4,
+  eSekkiSpringEquinox: 5,
+  eSekkiClearAndBright: 6,
+  eSekkiGrainRain: 7,
+  eSekkiStartOfSummer: 8,
+  eSekkiGrainBuds: 9,
+  eSekkiGrainInEar: 10,
+  eSekkiSummerSolstice: 11,
+  eSekkiMinorHeat: 12,
+  eSekkiMajorHeat: 13,
+  eSekkiStartOfAutumn: 14,
+  eSekkiEndOfHeat: 15,
+  eSekkiWhiteDew: 16,
+  eSekkiAutumnEquinox: 17,
+  eSekkiColdDew: 18,
+  eSekkiFrostsDescent: 19,
+  eSekkiStartOfWinter: 20,
+  eSekkiMinorSnow: 21,
+  eSekkiMajorSnow: 22,
+  eSekkiWinterSolstice: 23,
+  eFestivalSolarNone: 0,
+  eFestivalSolarNewYearsDay: 1000,
+  eFestivalSolarWomensDay: 1001,
+  eFestivalSolarAprilFoolsDay: 1002,
+  eFestivalSolarHealthDay: 1003,
+  eFestivalSolarEarthDay: 1004,
+  eFestivalSolarLabourDay: 1005,
+  eFestivalSolarChildrensDay: 1006,
+  eFestivalSolarNoTobaccoDay: 1007,
+  eFestivalSolarHalloween: 1008,
+  eFestivalSolarThanksgiving: 1009,
+  eFestivalSolarChristmasEve: 1010,
+  eFestivalSolarChristmasDay: 1011,
+  eFestivalSolarNewYearsEve: 1012,
+  eFestivalSolarArborDay: 1013,
+  eFestivalSolarValentinesDay: 1014,
+  eFestivalSolarMothersDay: 1015,
+  eFestivalSolarFathersDay: 1016,
+  eFestivalSolarTeachersDay: 1017,
+  eFestivalSolarConsumerRightsDay: 2000,
+  eFestivalSolarYouthDay: 2001,
+  eFestivalSolarPartyFoundationDay: 2002,
+  eFestivalSolarArmyDay: 2003,
+  eFestivalSolarNationalDayChs: 2004,
+  eFestivalSolarPeaceMemorialDay: 2005,
+  eFestivalSolarNationalDayCht: 2006,
+  eFestivalSolarIndependenceMovementDay: 3000,
+  eFestivalSolarChildrensDayKor: 3001,
+  eFestivalSolarMemorialDayKor: 3002,
+  eFestivalSolarLiberationDayKor: 3003,
+  eFestivalSolarNationalFoundationDayKor: 3004,
+  eFestivalSolarHangulDay: 3005,
+  eFestivalSolarChristmasKor: 3006,
+  eFestivalSolarIndependenceDay: 4000,
+  eFestivalSolarMartinLutherKingDay: 4001,
+  eFestivalSolarLaborDayUsa: 4002,
+  eFestivalSolarEaster: 4003,
+  eFestivalSolarGoodFriday: 4004,
+  eFestivalSolarGanjitsu: 5000,
+  eFestivalSolarComingOfAgeDay: 5001,
+  eFestivalSolarFoundationDayJpn: 5002,
+  eFestivalSolarHinamatsuri: 5003,
+  eFestivalSolarShowaDay: 5004,
+  eFestivalSolarConstitutionDayJpn: 5005,
+  eFestivalSolarGreeneryDay: 5006,
+  eFestivalSolarChildrensDayJpn: 5007,
+  eFestivalSolarMarineDay: 5008,
+  eFestivalSolarRespectForTheAgedDay: 5009,
+  eFestivalSolarSportsDay: 5010,
+  eFestivalSolarCultureDay: 5011,
+  eFestivalSolarLabourThanksgivingDay: 5012,
+  eFestivalSolarEmperorsBirthday: 5013,
+  eFestivalSolarReunificationDay: 6000,
+  eFestivalSolarHoChiMinhsBirthday: 6001,
+  eFestivalSolarNationalDayVit: 6002,
+  eFestivalLunarNone: 0,
+  eFestivalLunarNewYearsDay: 20000,
+  eFestivalLunarLanternFestival: 20001,
+  eFestivalLunarDragonBoat: 20002,
+  eFestivalLunarDoubleSeventh: 20003,
+  eFestivalLunarGhostFestival: 20004,
+  eFestivalLunarMidAutumn: 20005,
+  eFestivalLunarDoubleNinth: 20006,
+  eFestivalLunarLaba: 20007,
+  eFestivalLunarLittleNewYear: 20008,
+  eFestivalLunarNewYearsEve: 20009,
+  eFestivalLunarBuddhasBirthday: 20010,
+  eFestivalLunarHungKings: 20012,
 };
 
 const functions = `
@@ -58,6 +187,7 @@ void SetBreakDayOfWeek(int32_t dayOfWeek, bool isBreak);
 bool IsBreakDayOfWeek(int32_t dayOfWeek);
 char* GetConfigKey(void);
 `;
+// --- end
 
 for (const [name, fields] of Object.entries(records)) {
   koffi.struct(name, Object.fromEntries(fields.split(' ').map((field) => [field, 'int32_t'])));
@@ -66,6 +196,8 @@ for (const name of new Set(functions.match(/\bE[A-Z]\w+/g))) {
   koffi.alias(name, 'int32_t');
 }
 
+// The engine. Without a path the library is looked for as the dynamic linker does it: in the
+// folders of LD_LIBRARY_PATH, then where the system has its libraries.
 function load(path = 'libalmara.so.1') {
   const library = koffi.load(path);
   const calls = {};
@@ -76,4 +208,4 @@ function load(path = 'libalmara.so.1') {
   return calls;
 }
 
-module.exports = { load, records };
+module.exports = { load, records, ...constants };

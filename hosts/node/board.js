@@ -8,13 +8,11 @@ const fs = require('fs');
 const koffi = require('koffi');
 const almara = require('./almara.js');
 
-const wholeMonth = 3;
-const chinese = 1;
 const cellTexts = {
-  3: (number) => ` ${number}`,
-  4: (number) => `[${number}]`, // today
-  5: (number) => ` ${number}.`, // a break day
-  6: (number) => `[${number}].`, // today on a break day
+  [almara.eCalendarItemDay]: (number) => ` ${number}`,
+  [almara.eCalendarItemToday]: (number) => `[${number}]`,
+  [almara.eCalendarItemBreakDay]: (number) => ` ${number}.`,
+  [almara.eCalendarItemTodayBreakDay]: (number) => `[${number}].`,
 };
 const months = ['January', 'February', 'March', 'April', 'May', 'June', 'July', 'August',
   'September', 'October', 'November', 'December'];
@@ -65,8 +63,8 @@ function annotationLine(engine) {
   return `${date.year}-${month}-${day}: ` +
     `lunar ${lunar.year}-${lunar.month}-${lunar.day}${lunar.leap ? ' in a leap month' : ''}, ` +
     `solar term ${engine.Check24SekkiWithDate(date)}, ` +
-    `festivals ${engine.CheckFestivalSolarWithLang(chinese, date)} ` +
-    `${engine.CheckFestivalLunarWithLang(chinese, date)}`;
+    `festivals ${engine.CheckFestivalSolarWithLang(almara.eLanguageChs, date)} ` +
+    `${engine.CheckFestivalLunarWithLang(almara.eLanguageChs, date)}`;
 }
 
 function main(text) {
@@ -77,9 +75,9 @@ function main(text) {
   }
   const screen = keepScreen();
   const engine = almara.load();
-  engine.SetDispMonth(wholeMonth);
+  engine.SetDispMonth(almara.eDispMonthWholeMonth);
   engine.SetShowMonthInterval(false);
-  engine.InitCalendarLogicDt(chinese);
+  engine.InitCalendarLogicDt(almara.eLanguageChs);
   if (date) {
     engine.GotoSpecifiedDate(...date.slice(1).map(Number));
   }

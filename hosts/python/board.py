@@ -8,10 +8,6 @@ import sys
 
 import almara
 
-WHOLE_MONTH = 3
-CHINESE = 1
-DAY, TODAY, BREAK_DAY, TODAY_BREAK_DAY = 3, 4, 5, 6
-
 MONTHS = ("January February March April May June July August September October November "
           "December").split()
 DAYS = "Sun Mon Tue Wed Thu Fri Sat".split()
@@ -26,8 +22,10 @@ def keep_screen():
 
 def cell_text(cell):
     """ 9, 10. for a break day, [11] for today."""
-    return {DAY: f" {cell.day:2}", TODAY: f"[{cell.day:2}]", BREAK_DAY: f" {cell.day:2}.",
-            TODAY_BREAK_DAY: f"[{cell.day:2}]."}.get(cell.type, "")
+    return {almara.eCalendarItemDay: f" {cell.day:2}",
+            almara.eCalendarItemToday: f"[{cell.day:2}]",
+            almara.eCalendarItemBreakDay: f" {cell.day:2}.",
+            almara.eCalendarItemTodayBreakDay: f"[{cell.day:2}]."}.get(cell.type, "")
 
 
 def print_board(engine, screen):
@@ -54,8 +52,8 @@ def print_annotations(engine, screen):
     print(f"{date.year}-{date.month:02}-{date.day:02}: "
           f"lunar {lunar.year}-{lunar.month}-{lunar.day}{leap}, "
           f"solar term {engine.Check24SekkiWithDate(date)}, "
-          f"festivals {engine.CheckFestivalSolarWithLang(CHINESE, date)} "
-          f"{engine.CheckFestivalLunarWithLang(CHINESE, date)}", file=screen)
+          f"festivals {engine.CheckFestivalSolarWithLang(almara.eLanguageChs, date)} "
+          f"{engine.CheckFestivalLunarWithLang(almara.eLanguageChs, date)}", file=screen)
 
 
 def main(arguments):
@@ -64,9 +62,9 @@ def main(arguments):
         sys.exit("usage: board.py [YYYY-MM-DD]")
     screen = keep_screen()
     engine = almara.load()
-    engine.SetDispMonth(WHOLE_MONTH)
+    engine.SetDispMonth(almara.eDispMonthWholeMonth)
     engine.SetShowMonthInterval(False)
-    engine.InitCalendarLogicDt(CHINESE)
+    engine.InitCalendarLogicDt(almara.eLanguageChs)
     if date:
         engine.GotoSpecifiedDate(*map(int, date.groups()))
     print_board(engine, screen)

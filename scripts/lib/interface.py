@@ -82,6 +82,10 @@ class Interface:
     typedefs: dict = field(default_factory=dict)
     macros: dict = field(default_factory=dict)
 
+    @property
+    def version(self):
+        return self.macros["ALMARA_VERSION_STRING"].strip('"')
+
     def constants_of(self, typedef):
         return [each for each in self.constants.values() if each.type == typedef]
 

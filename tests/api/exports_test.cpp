@@ -12,7 +12,6 @@
 #include <string>
 #include <vector>
 
-#include "api/records_layout.h"
 #include "support/capture_stdout.h"
 
 using almara_test::CaptureStdout;

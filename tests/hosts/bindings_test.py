@@ -1,52 +1,55 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""The bindings that the hosts bring along declare what the header declares, all of it."""
-import re
-import sys
+"""What scripts/interface cannot see of the bindings: that the bridge of ctypes hands values over
+whole, releases texts, and has one engine however often it is loaded."""
+import _ctypes
+import ctypes
 import unittest
-from pathlib import Path
 
-ROOT = Path(__file__).resolve().parents[2]
-sys.path.insert(0, str(ROOT / "tests/abi"))
-from interface import Interface  # noqa: E402
+import almara
 
-HEADER = Interface()
-TWO_SCREENS = 130
+INT32_MIN, INT32_MAX = -2**31, 2**31 - 1
 
 
-def text_of(example):
-    return (ROOT / "hosts" / example).read_text()
+def values(record):
+    return tuple(getattr(record, field) for field, _ in record._fields_)
 
 
-class BindingsTest(unittest.TestCase):
-    def test_functions(self):
-        for example in ("python/almara.py", "node/almara.js"):
-            declared = re.findall(r"^(\S+ \w+\([\w ,*]+\));$", text_of(example), re.MULTILINE)
-            self.assertEqual(declared, list(HEADER.functions.values()), example)
+class BindingTest(unittest.TestCase):
+    def setUp(self):
+        self.engine = almara.load()
 
-    def test_records(self):
-        patterns = {"python/almara.py": r'^\w+ = _record\(\s*"(\w+)", "([\w ]+)"\)',
-                    "node/almara.js": r"^  (\w+): '([\w ]+)',"}
-        for example, pattern in patterns.items():
-            declared = re.findall(pattern, text_of(example), re.MULTILINE)
-            self.assertEqual({name: fields.split() for name, fields in declared}, HEADER.records,
-                             example)
+    def test_numbers_and_records(self):
+        self.assertEqual(self.engine.native_add(INT32_MAX, 1), INT32_MIN)
+        for sample in [(INT32_MIN, INT32_MAX, -1, 0x12345678), (0, 1, INT32_MIN, INT32_MAX)]:
+            date = self.engine.CreateSolarDate(*sample)
+            self.assertEqual(values(date), sample)
+        cell = self.engine.GetContentItem(INT32_MIN, INT32_MAX)
+        self.assertEqual(values(cell), (0, 0, 0, 0, -1, 0, 0, almara.eCalendarItemEmpty))
 
-    def test_constants(self):
-        """The numbers that the Python and Node.js hosts use for constants."""
-        expected = {"WHOLE_MONTH": "eDispMonthWholeMonth", "CHINESE": "eLanguageChs"}
-        for line in re.findall(r"^(?:const )?(\w+) = (\d+);?$",
-                               text_of("python/board.py") + text_of("node/board.js"), re.MULTILINE):
-            name = re.sub(r"(?=[A-Z])", "_", line[0]).upper() if line[0][0].islower() else line[0]
-            self.assertEqual(int(line[1]), HEADER.constants[expected[name]], name)
+    def test_bools(self):
+        for value in (True, False):
+            self.engine.SetHideBreakDay(value)
+            self.assertIs(self.engine.GetHideBreakDay(), value)
 
-    def test_each_file_fits_on_two_screens(self):
-        for path in (ROOT / "hosts").rglob("*"):
-            if path.suffix in (".c", ".cpp", ".py", ".js") and "node_modules" not in path.parts:
-                self.assertLessEqual(len(path.read_text().splitlines()), TWO_SCREENS, path.name)
+    def test_texts_are_released(self):
+        class Usage(ctypes.Structure):
+            _fields_ = [(f"field{index}", ctypes.c_size_t) for index in range(10)]
 
-    def test_lock_file_names_no_registry(self):
-        self.assertNotIn('"resolved"', text_of("node/package-lock.json"))
+        usage = ctypes.CDLL(None).mallinfo2
+        usage.restype = Usage
+        self.assertRegex(self.engine.GetConfigKey(), r"^\d-\d-7-1-1-1-\d-")
+        before = usage().field7
+        for _ in range(20000):
+            self.engine.GetConfigKey()
+        self.assertLess(usage().field7 - before, 20000)
+
+    def test_loaded_twice_it_is_one_engine(self):
+        other = almara.load()
+        other.SetMaxRow(3)
+        self.assertEqual(self.engine.GetMaxRow(), 3)
+        _ctypes.dlclose(other._handle)
+        self.assertEqual(self.engine.GetMaxRow(), 3)
 
 
 if __name__ == "__main__":

@@ -3,20 +3,19 @@
 """An installed tree: what each component holds, and that the C and C++ examples build against it
 by CMake and by pkg-config, also after the tree was moved, and do not build without it."""
 import os
-import re
-import shlex
 import shutil
 import subprocess
 import tempfile
 import unittest
 from pathlib import Path
 
+import interface
+
 ROOT = Path(__file__).resolve().parents[2]
 BUILD = Path(os.environ["ALMARA_BUILD"])
 LIBDIR = os.environ["ALMARA_LIBDIR"]
 CMAKE = os.environ["CMAKE"]
-VERSION = next(line.split('"')[1] for line in open(ROOT / "include/almara/almara.h")
-               if line.startswith("#define ALMARA_VERSION_STRING"))
+VERSION = interface.read("almara/almara.h").version
 MAJOR = VERSION.split(".", maxsplit=1)[0]
 HAS_PLUGIN = os.environ["ALMARA_HAS_PLUGIN"] == "1"
 HAS_VIEWER = (BUILD / "almara-board").exists()
@@ -25,12 +24,6 @@ HAS_VIEWER = (BUILD / "almara-board").exists()
 def run(*command, **environment):
     return subprocess.run(command, env={**os.environ, **environment}, stdout=subprocess.PIPE,
                           stderr=subprocess.STDOUT, text=True, check=False)
-
-
-def documented(command):
-    """The lines of a command that docs/embedding.md says to type."""
-    text = (ROOT / "docs/embedding.md").read_text()
-    return re.search(rf"<!-- command: {command} -->\n```sh\n(.*?)```", text, re.DOTALL)[1].split("\n")
 
 
 def files_of(prefix):
@@ -124,21 +117,6 @@ class InstalledTree(unittest.TestCase):
             self.assertNotEqual(result.returncode, 0)
             self.assertIn("almaraConfig.cmake", result.stdout)
         self.assertNotEqual(self.pkg_config(self.folder / "nowhere", "--cflags").returncode, 0)
-
-    def test_documented_installation(self):
-        configure, build, install, _ = documented("install")
-        self.succeed(CMAKE, *shlex.split(configure)[1:], "-S", ROOT, "-B", self.folder / "typed")
-        self.assertEqual(build, "cmake --build build/install")
-        prefix = self.folder / "typed prefix"
-        self.succeed(CMAKE, "--install", BUILD, *shlex.split(install)[3:], "--prefix", prefix)
-        self.assertEqual(files_of(prefix), files_of(self.first))
-
-    def test_documented_pkg_config_line(self):
-        shutil.copy(ROOT / "hosts/c/month.c", self.folder)
-        self.succeed("sh", "-c", f"cd {self.folder} && {documented('pkg-config')[0]}",
-                     PKG_CONFIG_PATH=str(self.moved / LIBDIR / "pkgconfig"))
-        text = self.succeed(self.folder / "month", LD_LIBRARY_PATH=str(self.moved / LIBDIR))
-        self.assertEqual(text.splitlines()[-1].split(), ["26", "27", "28", "29"])
 
     def test_versions(self):
         self.assertEqual(self.pkg_config(self.moved, "--modversion").stdout.strip(), VERSION)

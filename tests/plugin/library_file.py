@@ -3,9 +3,11 @@
 import pathlib
 import re
 import subprocess
+import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-HEADERS = ROOT / "include" / "almara"
+sys.path.insert(0, str(ROOT / "scripts" / "lib"))
+import interface  # noqa: E402
 
 # What the plugin may ask of the embedding.
 EMBEDDING_FUNCTIONS = {
@@ -17,9 +19,7 @@ EMBEDDING_FUNCTIONS = {
 
 def declared_functions(header):
     """The functions that a public header declares as exported."""
-    text = re.sub(r"/\*.*?\*/", "", (HEADERS / header).read_text(), flags=re.S)
-    text = re.sub(r"^\s*#(?:.*\\\n)*.*$", "", text, flags=re.M)
-    return set(re.findall(r"\bALMARA_(?:PLUGIN_)?EXPORT\b[^;(]*?(\w+)\s*\(", text))
+    return set(interface.read(f"almara/{header}").functions)
 
 
 def _output(*command):

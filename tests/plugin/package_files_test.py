@@ -47,10 +47,6 @@ class Pubspec(unittest.TestCase):
         self.assertIn(f"add_library({name}_plugin SHARED", build)
         self.assertRegex(build, rf"set\({name}_bundled_libraries .*PARENT_SCOPE\)")
 
-    def test_version_is_the_librarys(self):
-        project = re.search(r"project\(almara VERSION (\S+)", read("CMakeLists.txt"))[1]
-        self.assertEqual(value_of("version", self.pubspec), project)
-
 
 class Ffigen(unittest.TestCase):
 

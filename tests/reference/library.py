@@ -3,95 +3,44 @@
 
 import ctypes
 import os
+import re
+import sys
 import tempfile
 from ctypes import c_int32, c_uint8
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "scripts" / "lib"))
+import interface  # noqa: E402
+
+HEADERS = interface.read(*interface.ENGINE_HEADERS)
 
 _libc = ctypes.CDLL(None)
 _libc.free.argtypes = [ctypes.c_void_p]
 _libc.fflush.argtypes = [ctypes.c_void_p]
 
 
-def _int_record(name, *fields):
-    members = [(field, c_int32) for field in fields]
-    return type(name, (ctypes.Structure,), {"_fields_": members})
-
-
-SolarDateRecord = _int_record("SolarDateRecord", "year", "month", "day", "day_of_week")
-CellRecord = _int_record(
-    "CellRecord",
-    "year",
-    "month",
-    "day",
-    "day_of_week",
-    "week_number",
-    "row",
-    "column",
-    "type",
-)
-SpanRecord = _int_record("SpanRecord", "week_number", "second_week_number", "rows")
-LunarDateRecord = _int_record("LunarDateRecord", "year", "month", "day", "reserved", "leap")
-
-INT = c_int32
-FLAG = c_uint8
+RECORDS = {
+    name: type(name, (ctypes.Structure,), {"_fields_": [(each.name, c_int32) for each in kind.fields]})
+    for name, kind in HEADERS.records.items()
+}
+SolarDateRecord = RECORDS["CCalendarSolarDate"]
 TEXT = ctypes.c_void_p
+TYPES = {"void": None, "int32_t": c_int32, "bool": c_uint8, "char*": TEXT}
+TYPES.update(RECORDS)
+TYPES.update(dict.fromkeys(HEADERS.typedefs, c_int32))
 
-# Exported name: (result, arguments, name of the model's method).
-BOARD_CALLS = {
-    "native_add": (INT, (INT, INT), "native_add"),
-    "CreateSolarDate": (SolarDateRecord, (INT,) * 4, "create_solar_date"),
-    "InitCalendarLogicDt": (None, (INT,), "init_calendar_logic_dt"),
-    "Build": (None, (), "build"),
-    "GotoToday": (None, (), "goto_today"),
-    "GotoPreviousPage": (None, (), "goto_previous_page"),
-    "GotoNextPage": (None, (), "goto_next_page"),
-    "GotoSpecifiedDate": (None, (INT,) * 3, "goto_specified_date"),
-    "GotoTodayOffset": (None, (INT,), "goto_today_offset"),
-    "GetContentRows": (INT, (), "get_content_rows"),
-    "GetContentColumns": (INT, (), "get_content_columns"),
-    "GetContentItem": (CellRecord, (INT, INT), "get_content_item"),
-    "GetCalendarWeekByColumns": (INT, (INT,), "get_calendar_week_by_columns"),
-    "GetWeekNumberCount": (INT, (), "get_week_number_count"),
-    "GetWeekNumberItemWithIndex": (SpanRecord, (INT,), "get_week_number_item_with_index"),
-    "GetContentDate": (SolarDateRecord, (), "get_content_date"),
-    "GetToday": (SolarDateRecord, (), "get_today"),
-    "IsTodayInBoard": (FLAG, (), "is_today_in_board"),
-    "GetDispMonth": (INT, (), "get_disp_month"),
-    "SetDispMonth": (None, (INT,), "set_disp_month"),
-    "GetMaxRow": (INT, (), "get_max_row"),
-    "SetMaxRow": (None, (INT,), "set_max_row"),
-    "GetPassedWeeks": (INT, (), "get_passed_weeks"),
-    "SetPassedWeeks": (None, (INT,), "set_passed_weeks"),
-    "GetStartDayOfWeek": (INT, (), "get_start_day_of_week"),
-    "SetStartDayOfWeek": (None, (INT,), "set_start_day_of_week"),
-    "GetStartWeekNumber": (INT, (), "get_start_week_number"),
-    "SetStartWeekNumber": (None, (INT,), "set_start_week_number"),
-    "GetHideBreakDay": (FLAG, (), "get_hide_break_day"),
-    "SetHideBreakDay": (None, (FLAG,), "set_hide_break_day"),
-    "GetShowMonthInterval": (FLAG, (), "get_show_month_interval"),
-    "SetShowMonthInterval": (None, (FLAG,), "set_show_month_interval"),
-    "GetShowBreakDayOfWeek": (FLAG, (), "get_show_break_day_of_week"),
-    "SetShowBreakDayOfWeek": (None, (FLAG,), "set_show_break_day_of_week"),
-    "GetWeekNumberCalcType": (INT, (), "get_week_number_calc_type"),
-    "SetWeekNumberCalcType": (None, (INT,), "set_week_number_calc_type"),
-    "SetBreakDayOfWeek": (None, (INT, FLAG), "set_break_day_of_week"),
-    "IsBreakDayOfWeek": (FLAG, (INT,), "is_break_day_of_week"),
-    "GetConfigKey": (TEXT, (), "get_config_key"),
-}
-ANNOTATION_CALLS = {
-    "ConverterLunarWithDate": (LunarDateRecord, (SolarDateRecord,), "converter_lunar_with_date"),
-    "Check24SekkiWithDate": (INT, (SolarDateRecord,), "check24_sekki_with_date"),
-    "CheckFestivalSolarWithLang": (
-        INT,
-        (INT, SolarDateRecord),
-        "check_festival_solar_with_lang",
-    ),
-    "CheckFestivalLunarWithLang": (
-        INT,
-        (INT, SolarDateRecord),
-        "check_festival_lunar_with_lang",
-    ),
-}
-CALLS = BOARD_CALLS | ANNOTATION_CALLS
+
+def _call(function):
+    """Result, arguments, and the model's method: the name of the function in snake case."""
+    method = re.sub(r"(?<=[a-z0-9])(?=[A-Z])", "_", function.name).lower()
+    arguments = tuple(TYPES[each.type] for each in function.parameters)
+    return TYPES[function.result], arguments, method
+
+
+CALLS = {name: _call(function) for name, function in HEADERS.functions.items()}
+ANNOTATION_CALLS = [
+    name for name, each in HEADERS.functions.items() if each.section == "Annotating dates"
+]
 
 
 class Library:
