@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#include "my_application.h"
+
+int main(int argc, char** argv) {
+  g_autoptr(MyApplication) application = my_application_new();
+  return g_application_run(G_APPLICATION(application), argc, argv);
+}

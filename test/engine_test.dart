@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+@TestOn('linux')
+library;
+
+import 'dart:io';
+
+import 'package:almara/almara.dart';
+import 'package:test/test.dart';
+
+void main() {
+  // The stand-alone library; a bundle exists in an application only.
+  final path = Platform.environment['ALMARA_LIBRARY'];
+
+  group('engine', () {
+    late AlmaraEngine engine;
+
+    // The options belong to the process: each test says what it needs.
+    setUp(() {
+      engine = AlmaraEngine.open(path!)
+        ..arrangement = Arrangement.wholeMonth
+        ..startDayOfWeek = Weekday.monday
+        ..showsMonthIntervals = false
+        ..showsBreakDays = true
+        ..breakDays = {Weekday.saturday, Weekday.sunday};
+    });
+
+    test('reads a month', () {
+      engine.start(Region.chs);
+      final board = engine.goTo(const CalendarDate(2024, 2, 10));
+      expect(board.date, const CalendarDate(2024, 2, 10));
+      expect(board.headings, hasLength(7));
+      expect(board.headings.first, Weekday.monday);
+      expect(board.rows, hasLength(5));
+      expect(board.rows.map((row) => row.length), everyElement(7));
+      expect(board.firstDay, const CalendarDate(2024, 1, 29));
+      expect(board.lastDay, const CalendarDate(2024, 3, 3));
+      expect(board.weeks.map((week) => week.weekNumber), [5, 6, 7, 8, 9]);
+      expect(board.weeks.map((week) => week.rows), everyElement(1));
+      final cell = board.rows[1][5];
+      expect(cell.date, board.date);
+      expect(cell.kind, CellKind.breakDay);
+      expect(cell.weekday, Weekday.saturday);
+      expect(cell.weekNumber, 6);
+      expect(() => board.rows.clear(), throwsUnsupportedError);
+      expect(() => board.rows.first.clear(), throwsUnsupportedError);
+    });
+
+    test('reads month intervals', () {
+      engine
+        ..arrangement = Arrangement.rollingWeeks
+        ..showsMonthIntervals = true
+        ..start(Region.chs);
+      final board = engine.goTo(const CalendarDate(2024, 2, 1));
+      final titles = board.rows
+          .expand((row) => row)
+          .where((cell) => cell.kind == CellKind.monthTitle);
+      expect(titles, isNotEmpty);
+      expect(titles.first.date, isNull);
+      expect(titles.first.weekday, isNull);
+      expect(titles.first.titleMonth, isNotNull);
+      expect(board.weeks.fold(0, (sum, week) => sum + week.rows),
+          board.rows.length);
+    });
+
+    test('turns pages', () {
+      engine.start(Region.usa);
+      engine.goTo(const CalendarDate(2024, 12, 31));
+      expect(engine.nextPage().date, const CalendarDate(2025, 1, 1));
+      expect(engine.previousPage().date, const CalendarDate(2024, 12, 1));
+      expect(engine.goToToday().date, engine.today);
+      expect(engine.goToTodayOffset(0).date, engine.today);
+      expect(engine.rebuild().showsToday, isTrue);
+    });
+
+    test('annotates a date', () {
+      engine.start(Region.chs);
+      final notes = engine.annotate(const CalendarDate(2024, 2, 10));
+      expect(notes.lunarDate, const LunarDate(2024, 1, 1));
+      expect(notes.lunarFestival, LunarFestival.newYearsDay);
+      expect(notes.solarFestival, isNull);
+      expect(notes.solarTerm, isNull);
+      expect(
+        engine.annotate(const CalendarDate(2023, 3, 22)).lunarDate,
+        const LunarDate(2023, 2, 1, isLeapMonth: true),
+      );
+      expect(
+        engine.annotate(const CalendarDate(2024, 6, 21)).solarTerm,
+        SolarTerm.summerSolstice,
+      );
+      expect(
+        engine.annotate(const CalendarDate(2024, 10, 1)).solarFestival,
+        SolarFestival.nationalDayChs,
+      );
+    });
+
+    test('options read back what was set', () {
+      engine
+        ..maxRows = 6
+        ..passedWeeks = 2
+        ..startWeekNumber = 3
+        ..weekNumberRule = WeekNumberRule.fromJan1
+        ..startDayOfWeek = Weekday.sunday
+        ..showsMonthIntervals = true
+        ..showsBreakDays = false
+        ..breakDays = {Weekday.friday};
+      expect(engine.configKey, '3-6-7-2-0-3-0-0-1-(0-0-0-0-1-0-0)-0');
+      expect(engine.maxRows, 6);
+      expect(engine.passedWeeks, 2);
+      expect(engine.startWeekNumber, 3);
+      expect(engine.weekNumberRule, WeekNumberRule.fromJan1);
+      expect(engine.startDayOfWeek, Weekday.sunday);
+      expect(engine.showsMonthIntervals, isTrue);
+      expect(engine.showsBreakDays, isFalse);
+      expect(engine.breakDays, {Weekday.friday});
+      engine
+        ..maxRows = 5
+        ..passedWeeks = 1
+        ..startWeekNumber = 1
+        ..weekNumberRule = WeekNumberRule.iso8601
+        ..showsMonthIntervals = false;
+      expect(engine.showsMonthIntervals, isFalse);
+    });
+
+    test('rejects what the engine would not understand', () {
+      expect(
+        () => engine.annotate(const CalendarDate(2024, 1, 1)),
+        throwsStateError,
+      );
+      engine.start(Region.chs);
+      expect(
+        () => engine.annotate(const CalendarDate(0x80000000, 1, 1)),
+        throwsRangeError,
+      );
+      for (final date in const [
+        CalendarDate(1899, 12, 31),
+        CalendarDate(2100, 1, 1),
+        CalendarDate(2024, 13, 1),
+        CalendarDate(2024, 1, 32),
+      ]) {
+        expect(() => engine.goTo(date), throwsRangeError);
+      }
+      expect(() => engine.maxRows = 51, throwsRangeError);
+      expect(() => engine.goToTodayOffset(2401), throwsRangeError);
+      expect(
+        () => engine.arrangement = Arrangement.unknown,
+        throwsArgumentError,
+      );
+    });
+  }, skip: path == null ? 'ALMARA_LIBRARY does not name libalmara.so.1' : false);
+
+  test('codes that nobody knows read as unknown', () {
+    expect(Weekday.fromCode(7), Weekday.unknown);
+    expect(SolarTerm.fromCode(-1), isNull);
+    expect(SolarTerm.fromCode(24), SolarTerm.unknown);
+    expect(SolarFestival.fromCode(0), isNull);
+    expect(SolarFestival.fromCode(1011), SolarFestival.christmasDay);
+    expect(LunarFestival.fromCode(20011), LunarFestival.unknown);
+  });
+
+  test('dates are values', () {
+    const date = CalendarDate(2024, 2, 29);
+    expect(date, CalendarDate.of(DateTime.utc(2024, 2, 29, 23, 59)));
+    expect(date.hashCode, const CalendarDate(2024, 2, 29).hashCode);
+    expect(date.exists, isTrue);
+    expect(const CalendarDate(2023, 2, 29).exists, isFalse);
+    expect(date.weekday, Weekday.thursday);
+    expect(const CalendarDate(2024, 3, 3).weekday, Weekday.sunday);
+    expect(date.addDays(1), const CalendarDate(2024, 3, 1));
+    expect(date.compareTo(const CalendarDate(2024, 3, 1)), isNegative);
+    expect(date.toUtc().isUtc, isTrue);
+    expect('$date', '2024-02-29');
+    expect('${const LunarDate(2023, 2, 1, isLeapMonth: true)}', '2023-leap 2-1');
+  });
+}
