@@ -35,8 +35,8 @@ final class Board {
   /// The dates of the days shown, kept-back days left out, in order.
   Iterable<CalendarDate> get days => rows
       .expand((row) => row)
-      .where((cell) => cell.kind.isDay)
-      .map((cell) => cell.date)
+      .where((each) => each.kind.isDay)
+      .map((each) => each.date)
       .nonNulls;
 
   /// The first day shown; null on a board without days.
