@@ -95,6 +95,6 @@ class SyntaxTest(unittest.TestCase):
 if __name__ == "__main__":
     PARSER = Path(sys.argv.pop())
     if not install(PARSER):
-        print("SKIPPED: npm cannot fetch the parser")
+        print("skipped: dart.syntax (npm cannot fetch the parser)")
         sys.exit(SKIPPED)
     unittest.main()
