@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // AUTO GENERATED FILE, DO NOT EDIT.
 //
-// Made from include/almara/ by scripts/lib/dart_bindings.py.
+// Made from include/almara/ by scripts/interface --write.
 // ignore_for_file: type=lint, unused_import, unused_element
 import 'dart:ffi' as ffi;
 

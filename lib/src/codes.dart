@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // AUTO GENERATED FILE, DO NOT EDIT.
 //
-// Made from include/almara/ by scripts/lib/dart_codes.py.
+// Made from include/almara/ by scripts/interface --write.
 import 'almara_bindings.dart';
 
 /// Day of the week, 0 = Sunday to 6 = Saturday.

@@ -1,17 +1,11 @@
-#!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Prints lib/src/almara_bindings.dart: the public headers in the form that the ffigen of
-pubspec.yaml gives them, so that a package user needs neither ffigen nor libclang.
-
-    scripts/lib/dart_bindings.py > lib/src/almara_bindings.dart
+"""The raw Dart bindings, lib/src/almara_bindings.dart: the public headers in the form that the
+ffigen of pubspec.yaml gives them, so that a user of the package needs neither ffigen nor libclang.
 
 ffigen.yaml says which calls are leaf calls, for ffigen and for this program.
 """
 import re
-import sys
 from pathlib import Path
-
-import interface
 
 CONFIGURATION = Path(__file__).resolve().parents[2] / "ffigen.yaml"
 WIDTH = 80
@@ -19,7 +13,7 @@ PRELUDE = """\
 // SPDX-License-Identifier: MIT
 // AUTO GENERATED FILE, DO NOT EDIT.
 //
-// Made from include/almara/ by scripts/lib/dart_bindings.py.
+// Made from include/almara/ by scripts/interface --write.
 // ignore_for_file: type=lint, unused_import, unused_element
 import 'dart:ffi' as ffi;
 
@@ -162,7 +156,7 @@ def is_named(name, patterns):
     return any(re.fullmatch(pattern, name) for pattern in patterns)
 
 
-def bindings(headers):
+def text_of(headers):
     """The whole file."""
     leaves, others = leaf_patterns()
     types = Types(headers)
@@ -174,7 +168,3 @@ def bindings(headers):
                          for name in types.typedefs})
     return "".join([PRELUDE, *functions, "}\n",
                     *sorted_values(declarations), *constant_texts(headers)])
-
-
-if __name__ == "__main__":
-    sys.stdout.write(bindings(interface.read(*interface.ENGINE_HEADERS)))

@@ -1,18 +1,14 @@
-#!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Prints lib/src/codes.dart: the constants of the public headers as Dart enumerations, each with
-`unknown` for a code that a newer library may give.
-
-    scripts/lib/dart_codes.py > lib/src/codes.dart
+"""The constants of the public headers as Dart enumerations, lib/src/codes.dart, each with `unknown`
+for a code that a newer library may give.
 """
 import re
-import sys
 import textwrap
 
-import interface
 from dart_bindings import documented
 
-# Typedef: name of the enumeration, what the names of its constants begin with.
+# Typedef: name of the enumeration, what the names of its constants begin with. Other typedefs have
+# values beside their constants.
 ENUMERATIONS = {
     "ECalendarWeek": ("Weekday", "eCalendarWeek"),
     "ECalendarItem": ("CellKind", "eCalendarItem"),
@@ -27,7 +23,7 @@ PRELUDE = """\
 // SPDX-License-Identifier: MIT
 // AUTO GENERATED FILE, DO NOT EDIT.
 //
-// Made from include/almara/ by scripts/lib/dart_codes.py.
+// Made from include/almara/ by scripts/interface --write.
 import 'almara_bindings.dart';
 """
 ENUMERATION = """
@@ -91,12 +87,7 @@ def enumeration_text(typedef, constants):
                               from_code=from_code)
 
 
-def codes(headers):
+def text_of(headers):
     """The whole file."""
-    types = list(dict.fromkeys(each.type for each in headers.constants.values()))
     return PRELUDE + "".join(enumeration_text(headers.typedefs[each], headers.constants_of(each))
-                             for each in types)
-
-
-if __name__ == "__main__":
-    sys.stdout.write(codes(interface.read(*interface.ENGINE_HEADERS)))
+                             for each in ENUMERATIONS)

@@ -49,6 +49,17 @@ function dartFiles(folder) {
     .map((file) => path.join(folder, file)).sort();
 }
 
+// The Dart snippets of a document as one file each, their statements in a function.
+function snippets(document) {
+  const text = fs.readFileSync(path.join(root, document), 'utf8');
+  return [...text.matchAll(/^ *```dart\n(.*?)^ *```$/gms)].map(([, code], index) => {
+    const isImport = (line) => line.startsWith('import ');
+    const lines = code.split('\n');
+    return [`${document}, Dart snippet ${index + 1}`, [...lines.filter(isImport), 'void main() {',
+      ...lines.filter((line) => !isImport(line)), '}\n'].join('\n')];
+  });
+}
+
 function checkSyntax(file, tree) {
   for (const node of nodesOf(tree.rootNode)) {
     if (node.isError || node.isMissing) {
@@ -213,8 +224,10 @@ const grammar = new URL(import.meta.resolve('@lumis-sh/wasm-dart/tree-sitter-dar
 const parser = new Parser();
 parser.setLanguage(await Language.load(grammar.pathname));
 
-const trees = new Map(['lib', 'test', 'example'].flatMap(dartFiles).map((file) =>
-  [file, parser.parse(fs.readFileSync(path.join(root, file), 'utf8'))]));
+const sources = ['lib', 'test', 'example'].flatMap(dartFiles).map((file) =>
+  [file, fs.readFileSync(path.join(root, file), 'utf8')]);
+sources.push(...['README.md', 'docs/flutter.md'].flatMap(snippets));
+const trees = new Map(sources.map(([file, text]) => [file, parser.parse(text)]));
 const classes = declaredMembers([...trees.values()]);
 const bindings = trees.get('lib/src/almara_bindings.dart').rootNode;
 const constants = new Set([...bindings.text.matchAll(/^const int (\w+)/gm)].map((m) => m[1]));

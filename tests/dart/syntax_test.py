@@ -15,7 +15,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 HERE = Path(__file__).parent
-PARTS = ("lib", "test", "example", "pubspec.yaml")
+PARTS = ("lib", "test", "example", "docs", "pubspec.yaml", "README.md")
 SKIPPED = 77
 
 # File, what stands there, what is put in its place, and what must be said about it.
@@ -42,6 +42,7 @@ MISTAKES = (
      "RegionMenu.new takes no argument onChosen"),
     ("test/engine_test.dart", "CalendarDate(1899, 12, 31)", "CalendarDate(1899, 12)",
      "CalendarDate.new does not take 2 arguments"),
+    ("README.md", "engine.annotate(", "engine.notesOf(", "AlmaraEngine has no notesOf"),
     ("test/engine_test.dart", "isLeapMonth: true", "leap: true",
      "LunarDate.new takes no argument leap"),
 )
