@@ -23,6 +23,13 @@ struct BoardOptions {
   ELanguage language = eLanguageEng;
 };
 
+constexpr int kMostRows = 50;
+
+// Whether the arrangement has as many rows as wanted.
+constexpr bool HasRows(EDispMonth mode) {
+  return mode == eDispMonthRollingWeeks || mode == eDispMonthRollingTail;
+}
+
 // One step of navigation, as --next, --previous and --offset name them.
 struct Step {
   enum class Kind { kNext, kPrevious, kOffset };

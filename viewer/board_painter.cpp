@@ -193,7 +193,8 @@ class BoardPainter {
       text += m_glyphs.breakDay;
     }
     const Role role = today ? Role::kToday : IsBreakDay(cell) ? Role::kBreakDay : Role::kDay;
-    return {Fit(text, m_geometry.cell, ""), role, m_settings.selected == DateOf(cell)};
+    return {Fit(text, m_geometry.cell, ""), role, m_settings.selected == DateOf(cell),
+            DateOf(cell)};
   }
 
   Line AnnotationLine(const std::vector<tagCalendarCell>& row) const {
@@ -211,13 +212,14 @@ class BoardPainter {
     const Annotation annotation = m_settings.annotator->Annotate(date);
     const std::vector<DayName> names = NamesOf(annotation);
     if (names.empty()) {
-      return {InCell(LunarDayText(m_texts, annotation.lunar)), Role::kLunarDay, selected};
+      return {InCell(LunarDayText(m_texts, annotation.lunar)), Role::kLunarDay, selected, date};
     }
     const DayName& name = names.front();
     const std::string full = FullName(name, m_texts.language);
     const bool fits = DisplayWidth(full) < m_geometry.cell;
     return {InCell(fits ? full : BriefName(name, m_texts.language)),
-            name.kind == DayName::Kind::kSolarTerm ? Role::kSolarTerm : Role::kFestival, selected};
+            name.kind == DayName::Kind::kSolarTerm ? Role::kSolarTerm : Role::kFestival, selected,
+            date};
   }
 
   void AddWeekColumn(std::vector<std::vector<Line>>& rows) const {

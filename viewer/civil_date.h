@@ -32,6 +32,10 @@ constexpr int kLastYear = 2099;
 constexpr CivilDate kFirstDate{kFirstYear, 1, 1};
 constexpr CivilDate kLastDate{kLastYear, 12, 31};
 
+constexpr bool IsInCalendar(CivilDate date) {
+  return date.year >= kFirstYear && date.year <= kLastYear;
+}
+
 int DaysInYear(int year);
 int DaysInMonth(int year, int month);
 

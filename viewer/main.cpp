@@ -31,7 +31,12 @@ class Program {
         m_annotator(options.board.language) {}
 
   int Run() {
+    if (m_options.task == Task::kPrintText) {
+      m_output.Write(m_options.text);
+      return 0;
+    }
     StartEngine(m_options.board);
+    CheckClock();
     CheckOffsets();
     switch (m_options.task) {
       case Task::kShowBoard:
@@ -47,13 +52,22 @@ class Program {
         Navigate();
         return RunTui(m_options, m_utf8, m_output);
       case Task::kPrintText:
-        m_output.Write(m_options.text);
         break;
     }
     return 0;
   }
 
  private:
+  // What is asked for without a date is about today.
+  void CheckClock() const {
+    const CivilDate today = ReadToday();
+    const bool dated = m_options.task == Task::kShowDay || m_options.date || m_options.year;
+    if (!dated && !IsInCalendar(today)) {
+      throw std::runtime_error("the clock says " + IsoText(today) +
+                               ", outside the years 1900 to 2099; give a date or a year");
+    }
+  }
+
   void CheckOffsets() const {
     for (const Step& step : m_options.steps) {
       if (step.kind == Step::Kind::kOffset &&

@@ -64,11 +64,35 @@ bool Navigator::Page(int direction) {
   return true;
 }
 
-void Navigator::GoToToday() { GoTo(DateOf(m_board.today)); }
+void Navigator::MoveYears(int years) { Select(AddMonths(m_selected, 12 * years)); }
+
+void Navigator::GoToFirstOfMonth() { Select({m_selected.year, m_selected.month, 1}); }
+
+void Navigator::GoToLastOfMonth() {
+  const int lastDay = DaysInMonth(m_selected.year, m_selected.month);
+  Select({m_selected.year, m_selected.month, lastDay});
+}
+
+bool Navigator::GoToToday() {
+  const CivilDate today = DateOf(m_board.today);
+  if (!IsInCalendar(today)) {
+    return false;
+  }
+  GoTo(today);
+  return true;
+}
 
 void Navigator::GoTo(CivilDate date) {
   m_selected = date;
   Rebuild();
+}
+
+void Navigator::Select(CivilDate date) {
+  if (FindDay(m_board, date) != nullptr) {
+    m_selected = date;
+  } else {
+    GoTo(date);
+  }
 }
 
 void Navigator::NextMode() {
@@ -85,6 +109,22 @@ void Navigator::ToggleBreakDays() {
 void Navigator::ToggleIntervals() {
   m_options.monthIntervals = !m_options.monthIntervals;
   Rebuild();
+}
+
+void Navigator::NextFirstDay() {
+  m_options.firstDay = (m_options.firstDay + 1) % 7;
+  Rebuild();
+}
+
+bool Navigator::ChangeRows(int difference) {
+  const int rows = m_options.rows + difference;
+  if (!HasRows(m_options.mode) || rows < 1 || rows > kMostRows) {
+    return false;
+  }
+  m_options.rows = rows;
+  m_options.passedWeeks = std::min(m_options.passedWeeks, rows - 1);
+  Rebuild();
+  return true;
 }
 
 bool Navigator::RefreshToday() {

@@ -27,10 +27,24 @@ class Navigator {
   // Pages and keeps the selection's place. False at the end of the calendar.
   bool Page(int direction);
 
-  void GoToToday();
+  // The same day of another year, or the calendar's first or last day.
+  void MoveYears(int years);
+  void GoToFirstOfMonth();
+  void GoToLastOfMonth();
+
+  // False, and nothing changes, while the clock stands outside the calendar.
+  bool GoToToday();
+
+  // Builds the board of the date and selects it.
   void GoTo(CivilDate date);
 
+  // Selects a day, on the board as it is if it shows the day.
+  void Select(CivilDate date);
+
   void NextMode();
+  void NextFirstDay();
+  // False where the number of rows has no effect or would leave its range.
+  bool ChangeRows(int difference);
   void ToggleBreakDays();
   void ToggleIntervals();
 

@@ -2,10 +2,14 @@
 #include "screen.h"
 
 #include <ncurses.h>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 #include <cstdio>
-#include <stdexcept>
+#include <cstdlib>
 
+#include "error_report.h"
 #include "text_layout.h"
 
 namespace almara::viewer {
@@ -28,7 +32,7 @@ const Look& LookOf(Role role) {
       {Role::kWeekNumber, -1, A_DIM},
       {Role::kDay, -1, A_NORMAL},
       {Role::kBreakDay, COLOR_RED, A_NORMAL},
-      {Role::kToday, COLOR_YELLOW, A_BOLD},
+      {Role::kToday, -1, A_BOLD | A_UNDERLINE},
       {Role::kMonthTitle, COLOR_CYAN, A_NORMAL},
       {Role::kFestival, COLOR_MAGENTA, A_NORMAL},
       {Role::kSolarTerm, COLOR_GREEN, A_NORMAL},
@@ -54,19 +58,83 @@ void DefineColors() {
   }
 }
 
+constexpr const char* kUnsuitable =
+    "--tui: this terminal cannot show a full screen (is TERM right?)";
+
+constexpr int kEscape = 27;
+constexpr int kDelete = 127;
+constexpr int kControlU = 'U' - '@';
+
+struct Translation {
+  int code;  // of getch()
+  Key key;
+};
+
+constexpr Translation kTranslations[] = {
+    {KEY_RESIZE, Key::kResize},  {KEY_LEFT, Key::kLeft},
+    {KEY_RIGHT, Key::kRight},    {KEY_UP, Key::kUp},
+    {KEY_DOWN, Key::kDown},      {KEY_PPAGE, Key::kPageUp},
+    {KEY_NPAGE, Key::kPageDown}, {KEY_HOME, Key::kHome},
+    {KEY_END, Key::kEnd},        {KEY_ENTER, Key::kEnter},
+    {'\n', Key::kEnter},         {'\r', Key::kEnter},
+    {kEscape, Key::kEscape},     {KEY_BACKSPACE, Key::kBackspace},
+    {'\b', Key::kBackspace},     {kDelete, Key::kBackspace},
+    {kControlU, Key::kClear},
+};
+
+// Whether the terminal is gone: it hung up, or there is something to read and it is nothing.
+bool InputEnded() {
+  pollfd input = {STDIN_FILENO, POLLIN, 0};
+  if (poll(&input, 1, 0) <= 0) {
+    return false;
+  }
+  int waiting = 0;
+  return (input.revents & POLLIN) == 0 || ioctl(STDIN_FILENO, FIONREAD, &waiting) != 0 ||
+         waiting == 0;
+}
+
+KeyPress ReadMouse() {
+  MEVENT event{};
+  if (getmouse(&event) != OK) {
+    return {};
+  }
+  if ((event.bstate & BUTTON4_PRESSED) != 0) {
+    return {Key::kWheelUp};
+  }
+  if ((event.bstate & BUTTON5_PRESSED) != 0) {
+    return {Key::kWheelDown};
+  }
+  return {Key::kClick, 0, event.y, event.x};
+}
+
+screen* OpenTerminal(const Output& output) {
+  // The window's size is the terminal's, not that of LINES and COLUMNS.
+  unsetenv("LINES");
+  unsetenv("COLUMNS");
+  return newterm(nullptr, output.File(), stdin);
+}
+
+bool CanMoveCursor() { return tigetstr("cup") != nullptr; }
+
 }  // namespace
 
-Screen::Screen(const Output& output, bool color)
-    : m_screen(newterm(nullptr, output.File(), stdin)) {
+Screen::Screen(const Output& output, bool color) : m_screen(OpenTerminal(output)) {
   if (m_screen == nullptr) {
-    throw std::runtime_error("this terminal cannot show a full screen (is TERM right?)");
+    throw UsageError(kUnsuitable);
   }
   set_term(m_screen);
+  if (!CanMoveCursor()) {
+    endwin();
+    delscreen(m_screen);
+    throw UsageError(kUnsuitable);
+  }
   cbreak();
   noecho();
   keypad(stdscr, TRUE);
   set_escdelay(kEscapeDelayMs);
   curs_set(0);
+  mousemask(BUTTON1_PRESSED | BUTTON4_PRESSED | BUTTON5_PRESSED, nullptr);
+  mouseinterval(0);  // a click counts when the button goes down
   m_color = color && has_colors();
   if (m_color) {
     DefineColors();
@@ -95,9 +163,11 @@ void Screen::DrawLine(int row, const Line& line) const {
   int column = 0;
   for (const Piece& piece : line) {
     const Look& look = LookOf(piece.role);
+    // The selection is the terminal's own look turned round, which can be read on any ground.
     const attr_t selection = piece.selected ? A_REVERSE : A_NORMAL;
+    const bool colored = m_color && !piece.selected;
     const std::string text = Shorten(piece.text, COLS - column, "");
-    attr_set(look.attributes | selection, m_color ? PairOf(look.color) : short{0}, nullptr);
+    attr_set(look.attributes | selection, colored ? PairOf(look.color) : short{0}, nullptr);
     mvaddstr(row, column, text.c_str());
     column += DisplayWidth(text);
   }
@@ -107,37 +177,19 @@ void Screen::DrawLine(int row, const Line& line) const {
 KeyPress Screen::ReadKey(int milliseconds) {
   timeout(milliseconds);
   const int code = getch();
-  switch (code) {
-    case ERR:
-      return {Key::kNone};
-    case KEY_RESIZE:
-      return {Key::kResize};
-    case KEY_LEFT:
-      return {Key::kLeft};
-    case KEY_RIGHT:
-      return {Key::kRight};
-    case KEY_UP:
-      return {Key::kUp};
-    case KEY_DOWN:
-      return {Key::kDown};
-    case KEY_PPAGE:
-      return {Key::kPageUp};
-    case KEY_NPAGE:
-      return {Key::kPageDown};
-    case KEY_ENTER:
-    case '\n':
-    case '\r':
-      return {Key::kEnter};
-    case 27:
-      return {Key::kEscape};
-    case KEY_BACKSPACE:
-    case '\b':
-    case 127:
-      return {Key::kBackspace};
-    default:
-      return code > 0 && code < 127 ? KeyPress{Key::kCharacter, static_cast<char>(code)}
-                                    : KeyPress{Key::kNone};
+  if (code == ERR) {
+    return {InputEnded() ? Key::kGone : Key::kNone};
   }
+  if (code == KEY_MOUSE) {
+    return ReadMouse();
+  }
+  for (const Translation& translation : kTranslations) {
+    if (translation.code == code) {
+      return {translation.key};
+    }
+  }
+  return code >= ' ' && code < kDelete ? KeyPress{Key::kCharacter, static_cast<char>(code)}
+                                       : KeyPress{Key::kNone};
 }
 
 }  // namespace almara::viewer

@@ -14,9 +14,10 @@ struct screen;
 
 namespace almara::viewer {
 
-// What a key press means to the calendar.
+// What a key press or the mouse means to the calendar.
 enum class Key {
-  kNone,  // no key within the time
+  kNone,  // nothing within the time
+  kGone,  // the terminal went away, and no key will ever come
   kResize,
   kLeft,
   kRight,
@@ -24,15 +25,23 @@ enum class Key {
   kDown,
   kPageUp,
   kPageDown,
+  kHome,
+  kEnd,
   kEnter,
   kEscape,
   kBackspace,
+  kClear,
   kCharacter,
+  kClick,
+  kWheelUp,
+  kWheelDown,
 };
 
 struct KeyPress {
   Key key = Key::kNone;
-  char character = 0;  // for Key::Character
+  char character = 0;  // for Key::kCharacter
+  int row = 0;         // for Key::kClick: the place on the screen, from 0
+  int column = 0;
 };
 
 // Owns the screen: entered in the constructor, left as it was found in the destructor.

@@ -4,8 +4,11 @@
 #ifndef ALMARA_VIEWER_STYLED_TEXT_H_
 #define ALMARA_VIEWER_STYLED_TEXT_H_
 
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "civil_date.h"
 
 namespace almara::viewer {
 
@@ -32,6 +35,7 @@ struct Piece {
   std::string text;
   Role role = Role::kPlain;
   bool selected = false;
+  std::optional<CivilDate> day = std::nullopt;  // the day that the piece shows
 };
 
 using Line = std::vector<Piece>;

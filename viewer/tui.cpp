@@ -4,8 +4,8 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <csignal>
 #include <optional>
+#include <stdexcept>
 #include <string>
 
 #include "annotations.h"
@@ -14,6 +14,7 @@
 #include "listing.h"
 #include "navigator.h"
 #include "screen.h"
+#include "stop_signals.h"
 #include "text_layout.h"
 
 namespace almara::viewer {
@@ -21,45 +22,21 @@ namespace {
 
 constexpr int kWaitMs = 1000;  // how long a new day or a signal may go unnoticed
 
-volatile std::sig_atomic_t g_signal = 0;
-
-extern "C" void RememberSignal(int signal) { g_signal = signal; }
-
-// Ends the wait for a key on a signal that asks the program to stop, so that the screen is left in
-// order; the signal then does its usual work.
-class StopSignals {
- public:
-  StopSignals() {
-    for (int signal : kSignals) {
-      struct sigaction action {};
-      action.sa_handler = RememberSignal;
-      sigaction(signal, &action, nullptr);
-    }
-  }
-
-  static bool Arrived() { return g_signal != 0; }
-
-  static void Deliver() {
-    if (Arrived()) {
-      std::signal(g_signal, SIG_DFL);
-      std::raise(g_signal);
-    }
-  }
-
- private:
-  static constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
-};
-
 constexpr const char* kHelp[] = {
     "arrows, h j k l   move over the days",
-    "PageUp, PageDown  page backward, forward",
+    "PageUp, PageDown  page backward, forward; also p, n and Space",
+    "Home, End         first, last day of the month",
+    "<  >              a year back, forward",
     "t                 today",
     "g                 go to a date",
     "m                 next arrangement: rolling, tail, month, strip",
+    "+  -              a row more, less",
+    "f                 next first day of the week",
     "w                 week numbers on, off",
     "b                 break days on, off",
     "i                 month intervals on, off",
-    "?                 this help",
+    "mouse             click a day; the wheel pages",
+    "?                 this help, which any key leaves",
     "q                 quit",
 };
 
@@ -76,10 +53,15 @@ class Tui {
     m_settings.glyphs = &GlyphsFor(utf8);
   }
 
+  // Until the user leaves or a signal asks to stop. Throws if the terminal went away.
   void Run() {
     while (!m_quit && !StopSignals::Arrived()) {
       Draw();
-      Handle(m_screen.ReadKey(kWaitMs));
+      const KeyPress press = m_screen.ReadKey(kWaitMs);
+      if (press.key == Key::kGone && !StopSignals::Arrived()) {
+        throw std::runtime_error("the terminal went away");
+      }
+      Handle(press);
     }
   }
 
@@ -87,12 +69,13 @@ class Tui {
   void Draw() {
     m_settings.width = m_screen.Width();
     m_settings.selected = m_navigator.Selected();
-    m_screen.Draw(m_help ? HelpLines() : ScreenLines(), StatusLine());
+    m_drawn = m_help ? HelpLines() : ScreenLines();
+    m_screen.Draw(m_drawn, StatusLine());
   }
 
   Line StatusLine() const {
     if (m_prompt) {
-      return {{"Go to (YYYY-MM-DD): " + *m_prompt + "_"}};
+      return {{"Go to (YYYY-MM-DD): " + *m_prompt + "_  "}, {m_message}};
     }
     if (!m_message.empty()) {
       return {{m_message}};
@@ -194,7 +177,7 @@ class Tui {
       m_navigator.RefreshToday();
       return;
     }
-    if (press.key == Key::kResize) {
+    if (press.key == Key::kResize || press.key == Key::kGone) {
       return;
     }
     m_message.clear();
@@ -202,81 +185,83 @@ class Tui {
       HandlePrompt(press);
     } else if (m_help) {
       m_help = false;
-      m_quit = press.key == Key::kCharacter && press.character == 'q';
     } else {
       HandleKey(press);
     }
   }
 
   void HandleKey(const KeyPress& press) {
-    switch (press.key) {
-      case Key::kLeft:
-        m_navigator.MoveDays(-1);
-        break;
-      case Key::kRight:
-        m_navigator.MoveDays(1);
-        break;
-      case Key::kUp:
-        m_navigator.MoveWeeks(-1);
-        break;
-      case Key::kDown:
-        m_navigator.MoveWeeks(1);
-        break;
-      case Key::kPageUp:
-        Page(-1);
-        break;
-      case Key::kPageDown:
-        Page(1);
-        break;
-      case Key::kCharacter:
-        HandleCharacter(press.character);
-        break;
-      default:
-        break;
+    if (press.key == Key::kClick) {
+      Click(press);
+      return;
+    }
+    for (const Command& command : kCommands) {
+      const bool meant = command.key == Key::kCharacter ? command.character == press.character
+                                                        : command.key == press.key;
+      if (meant) {
+        (this->*command.action)();
+        return;
+      }
     }
   }
 
-  void HandleCharacter(char character) {
-    switch (character) {
-      case 'h':
-        m_navigator.MoveDays(-1);
-        break;
-      case 'l':
-        m_navigator.MoveDays(1);
-        break;
-      case 'k':
-        m_navigator.MoveWeeks(-1);
-        break;
-      case 'j':
-        m_navigator.MoveWeeks(1);
-        break;
-      case 't':
-        m_navigator.GoToToday();
-        break;
-      case 'g':
-        m_prompt = "";
-        break;
-      case 'm':
-        m_navigator.NextMode();
-        m_message = std::string("Arrangement: ") + WordFor(kModeWords, m_navigator.Options().mode);
-        break;
-      case 'w':
-        m_settings.weekNumbers = !m_settings.weekNumbers;
-        break;
-      case 'b':
-        m_navigator.ToggleBreakDays();
-        break;
-      case 'i':
-        m_navigator.ToggleIntervals();
-        break;
-      case '?':
-        m_help = true;
-        break;
-      case 'q':
-        m_quit = true;
-        break;
-      default:
-        break;
+  // Selects the day in that place of what was drawn last.
+  void Click(const KeyPress& press) {
+    if (press.row >= static_cast<int>(m_drawn.size())) {
+      return;
+    }
+    int column = 0;
+    for (const Piece& piece : m_drawn[static_cast<std::size_t>(press.row)]) {
+      column += DisplayWidth(piece.text);
+      if (press.column < column) {
+        if (piece.day) {
+          m_navigator.Select(*piece.day);
+        }
+        return;
+      }
+    }
+  }
+
+  void PreviousDay() { m_navigator.MoveDays(-1); }
+  void NextDay() { m_navigator.MoveDays(1); }
+  void PreviousWeek() { m_navigator.MoveWeeks(-1); }
+  void NextWeek() { m_navigator.MoveWeeks(1); }
+  void PreviousPage() { Page(-1); }
+  void NextPage() { Page(1); }
+  void FirstOfMonth() { m_navigator.GoToFirstOfMonth(); }
+  void LastOfMonth() { m_navigator.GoToLastOfMonth(); }
+  void PreviousYear() { m_navigator.MoveYears(-1); }
+  void NextYear() { m_navigator.MoveYears(1); }
+  void MoreRows() { ChangeRows(1); }
+  void FewerRows() { ChangeRows(-1); }
+  void AskForDate() { m_prompt = ""; }
+  void ShowHelp() { m_help = true; }
+  void Quit() { m_quit = true; }
+  void ToggleWeekNumbers() { m_settings.weekNumbers = !m_settings.weekNumbers; }
+  void ToggleBreakDays() { m_navigator.ToggleBreakDays(); }
+  void ToggleIntervals() { m_navigator.ToggleIntervals(); }
+
+  void Today() {
+    if (!m_navigator.GoToToday()) {
+      m_message = "The clock stands outside the years 1900 to 2099";
+    }
+  }
+
+  void NextMode() {
+    m_navigator.NextMode();
+    m_message = std::string("Arrangement: ") + WordFor(kModeWords, m_navigator.Options().mode);
+  }
+
+  void NextFirstDay() {
+    m_navigator.NextFirstDay();
+    m_message = std::string("First day: ") + Weekday(m_texts, m_navigator.Options().firstDay);
+  }
+
+  void ChangeRows(int difference) {
+    if (m_navigator.ChangeRows(difference)) {
+      m_message = "Rows: " + std::to_string(m_navigator.Options().rows);
+    } else if (!HasRows(m_navigator.Options().mode)) {
+      m_message = "Rows are for the arrangements rolling and tail";
     }
   }
 
@@ -294,13 +279,16 @@ class Tui {
       case Key::kEscape:
         m_prompt.reset();
         break;
+      case Key::kClear:
+        m_prompt = "";
+        break;
       case Key::kBackspace:
         if (!m_prompt->empty()) {
           m_prompt->pop_back();
         }
         break;
       case Key::kCharacter:
-        if (m_prompt->size() < kLongestDate && press.character >= ' ') {
+        if (m_prompt->size() < kLongestDate) {
           m_prompt->push_back(press.character);
         }
         break;
@@ -309,15 +297,56 @@ class Tui {
     }
   }
 
+  // A text that is no date stays, to be corrected; none at all leaves the prompt.
   void LeavePrompt() {
     const ParsedDate parsed = ParseDate(*m_prompt);
-    m_prompt.reset();
     if (parsed.date) {
       m_navigator.GoTo(*parsed.date);
+    }
+    if (parsed.date || m_prompt->empty()) {
+      m_prompt.reset();
     } else {
-      m_message = "Go to: " + parsed.problem;
+      m_message = parsed.problem;
     }
   }
+
+  struct Command {
+    Key key;
+    char character;  // for Key::kCharacter
+    void (Tui::*action)();
+  };
+  static constexpr Command kCommands[] = {
+      {Key::kLeft, 0, &Tui::PreviousDay},
+      {Key::kRight, 0, &Tui::NextDay},
+      {Key::kUp, 0, &Tui::PreviousWeek},
+      {Key::kDown, 0, &Tui::NextWeek},
+      {Key::kPageUp, 0, &Tui::PreviousPage},
+      {Key::kPageDown, 0, &Tui::NextPage},
+      {Key::kWheelUp, 0, &Tui::PreviousPage},
+      {Key::kWheelDown, 0, &Tui::NextPage},
+      {Key::kHome, 0, &Tui::FirstOfMonth},
+      {Key::kEnd, 0, &Tui::LastOfMonth},
+      {Key::kCharacter, 'h', &Tui::PreviousDay},
+      {Key::kCharacter, 'l', &Tui::NextDay},
+      {Key::kCharacter, 'k', &Tui::PreviousWeek},
+      {Key::kCharacter, 'j', &Tui::NextWeek},
+      {Key::kCharacter, 'p', &Tui::PreviousPage},
+      {Key::kCharacter, 'n', &Tui::NextPage},
+      {Key::kCharacter, ' ', &Tui::NextPage},
+      {Key::kCharacter, '<', &Tui::PreviousYear},
+      {Key::kCharacter, '>', &Tui::NextYear},
+      {Key::kCharacter, 't', &Tui::Today},
+      {Key::kCharacter, 'g', &Tui::AskForDate},
+      {Key::kCharacter, 'm', &Tui::NextMode},
+      {Key::kCharacter, '+', &Tui::MoreRows},
+      {Key::kCharacter, '-', &Tui::FewerRows},
+      {Key::kCharacter, 'f', &Tui::NextFirstDay},
+      {Key::kCharacter, 'w', &Tui::ToggleWeekNumbers},
+      {Key::kCharacter, 'b', &Tui::ToggleBreakDays},
+      {Key::kCharacter, 'i', &Tui::ToggleIntervals},
+      {Key::kCharacter, '?', &Tui::ShowHelp},
+      {Key::kCharacter, 'q', &Tui::Quit},
+  };
 
   static constexpr int kStatusLines = 1;
   static constexpr std::size_t kLongestDate = 10;
@@ -326,6 +355,7 @@ class Tui {
   Screen& m_screen;
   const Texts m_texts;
   PaintSettings m_settings;
+  std::vector<Line> m_drawn;
   Annotator m_annotator;
   bool m_annotations;
   bool m_help = false;

@@ -2,6 +2,7 @@
 """The full screen, driven through a terminal of its own."""
 
 import os
+import pty
 import shutil
 import signal
 import subprocess
@@ -38,15 +39,15 @@ class FullScreen(unittest.TestCase):
     def shell_environment():
         return {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "SHELL": "/bin/sh"}
 
-    def start(self, *arguments, width=80, height=24):
+    def start(self, *arguments, width=80, height=24, variables=None):
         """Runs the board in a shell that shows what it finds afterwards."""
-        variables = [f"{name}={value}" for name, value in
-                     environment(TERM="screen-256color").items()]
-        script = ('trap : INT; "$@"; echo "left with $?"; '
+        settings = environment(TERM="screen-256color", **(variables or {}))
+        assignments = [f"{name}={value}" for name, value in settings.items()]
+        script = ('trap : INT QUIT; "$@"; echo "left with $?"; '
                   'echo $(stty -a | tr -s " ;" "\\n" | grep -xE "icanon|isig|icrnl|onlcr|echo"); '
                   'echo done; exec cat')
         self.tmux("-u", "new-session", "-d", "-x", str(width), "-y", str(height),
-                  "sh", "-c", script, "sh", "env", *variables, BOARD, "--tui", *arguments)
+                  "sh", "-c", script, "sh", "env", *assignments, BOARD, "--tui", *arguments)
         self.wait_for("? help")
 
     def screen(self):
@@ -55,19 +56,19 @@ class FullScreen(unittest.TestCase):
     def keys(self, *names):
         self.tmux("send-keys", *names)
 
-    def wait_for(self, text, gone=False):
-        """Waits for the screen to show the text, and returns the screen."""
-        deadline = time.monotonic() + 10
+    def wait_for(self, *texts, gone=False):
+        """Waits for the screen to show all of the texts at once, or none, and returns it."""
+        deadline = time.monotonic() + 30
         while time.monotonic() < deadline:
             screen = self.screen()
-            if (text in screen) != gone:
+            if all((text in screen) != gone for text in texts):
                 return screen
             time.sleep(0.02)
-        self.fail(f"{'still' if gone else 'no'} {text!r} on the screen:\n{screen}")
+        self.fail(f"{'still' if gone else 'no'} {texts} on the screen:\n{screen}")
 
     def press(self, *names, shows):
         self.keys(*names)
-        return self.wait_for(shows)
+        return self.wait_for(*([shows] if isinstance(shows, str) else shows))
 
     def leaves_clean(self, status):
         screen = self.wait_for("done")
@@ -77,9 +78,8 @@ class FullScreen(unittest.TestCase):
         self.assertEqual(self.tmux("display-message", "-p", "#{cursor_flag}#{alternate_on}"), "10\n")
 
     def test_moving_over_the_days(self):
-        screen = self.start("--language", "eng") or self.screen()
-        self.assertIn("[12]", screen)
-        self.assertIn("Tuesday, 12 March 2024", screen)
+        self.start("--language", "eng")
+        self.wait_for("[12]", "Tuesday, 12 March 2024")
         self.press("Right", shows="Wednesday, 13 March 2024")
         self.press("l", shows="Thursday, 14 March 2024")
         self.press("Down", shows="Thursday, 21 March 2024")
@@ -89,18 +89,61 @@ class FullScreen(unittest.TestCase):
 
     def test_moving_off_the_board_pages(self):
         self.start("--language", "eng", "--mode", "month")
-        self.press("k", "k", shows="Tuesday, 27 February 2024")
-        self.assertIn("February 2024", self.screen().splitlines()[0])
+        self.press("k", "k", shows=("     February 2024\n", "Tuesday, 27 February 2024"))
         self.press("Right", "Right", "Right", shows="Friday, 1 March 2024")
         self.press("NPage", shows="Monday, 1 April 2024")
         self.press("PPage", "PPage", shows="Thursday, 1 February 2024")
         self.press("t", shows="Tuesday, 12 March 2024")
+        self.press("n", shows="Friday, 12 April 2024")
+        self.press("p", "p", shows="Monday, 12 February 2024")
+        self.press("Space", shows="Tuesday, 12 March 2024")
+
+    def test_first_and_last_of_the_month_and_years(self):
+        self.start("--language", "eng")
+        self.press("Home", shows="Friday, 1 March 2024")
+        self.press("End", shows="Sunday, 31 March 2024")
+        self.press(">", shows="Monday, 31 March 2025")
+        self.press("<", "<", shows="Friday, 31 March 2023")
+
+    def test_rows_and_first_day(self):
+        self.start("--language", "eng")
+        self.press("+", "+", shows=("Rows: 7", " 21 ", "[12]"))
+        self.press("-", "-", "-", "-", "-", "-", shows=("Rows: 1", "[12]"))
+        self.press("f", shows=("First day: Tue", "Wk   Tue "))
+        self.press("m", "m", shows="Arrangement: month")
+        self.press("+", shows="Rows are for the arrangements rolling and tail")
+
+    def mouse(self, row, column, button=0):
+        """The terminal's reports of a button that goes down and up at a place counted from 1."""
+        wheel = button >= 64
+        for state in [button] if wheel else [button, 3]:
+            report = "".join(chr(32 + number) for number in (state, column, row))
+            self.tmux("send-keys", "-l", "\033[M" + report)
+
+    def test_mouse(self):
+        self.start("--language", "eng", "--mode", "month")
+        row = next(number for number, line in enumerate(self.screen().splitlines(), 1)
+                   if " 21 " in line)
+        column = self.screen().splitlines()[row - 1].index(" 21 ") + 2
+        for event, shows in [((row, column), "Thursday, 21 March 2024"),
+                             ((row - 2, column), "Thursday, 14 March 2024"),
+                             ((row + 1, column), "Thursday, 21 March 2024"),  # the line below
+                             ((1, 1), "Thursday, 21 March 2024"),
+                             ((row, column, 65), "Sunday, 21 April 2024"),  # wheel down, up
+                             ((row, column, 64), "Thursday, 21 March 2024")]:
+            self.mouse(*event)
+            self.wait_for(shows)
 
     def test_going_to_a_date(self):
         self.start("--language", "eng")
         self.press("g", shows="Go to (YYYY-MM-DD):")
-        self.press("2025-02-30", "Enter", shows="Go to: 2025-02-30 is not a day of the calendar")
-        self.press("g", "2025-02-20", "BSpace", "1", "Enter", shows="Friday, 21 February 2025")
+        # A text that is no date stays and can be corrected.
+        self.press("2025-02-30", "Enter",
+                   shows="2025-02-30_  2025-02-30 is not a day of the calendar")
+        self.press("BSpace", "BSpace", "20", shows="2025-02-20_")
+        self.press("BSpace", "1", "Enter", shows="Friday, 21 February 2025")
+        self.press("g", "19", "C-u", shows="Go to (YYYY-MM-DD): _")
+        self.press("Enter", shows="? help")
         self.press("g", "19", "Escape", shows="? help")
         self.press("g", "1900-01-01", "Enter", shows="Monday, 1 January 1900")
         self.press("h", "PPage", shows="The calendar begins with 1900")
@@ -110,23 +153,23 @@ class FullScreen(unittest.TestCase):
     def test_options(self):
         self.start("--language", "eng")
         for mode in ("tail", "month", "strip", "rolling"):
-            screen = self.press("m", shows=f"Arrangement: {mode}")
-            self.assertIn("[12]", screen)
+            self.press("m", shows=(f"Arrangement: {mode}", "[12]"))
         self.keys("w")
         self.wait_for("Wk", gone=True)
         self.keys("b")
         self.wait_for("Sat", gone=True)
         self.keys("i")
         self.wait_for("April ─", gone=True)
-        self.press("?", shows="go to a date")
-        self.press("x", shows="Tuesday, 12 March 2024")
+        for key in ("x", "q"):  # any key leaves the help
+            self.press("?", shows="go to a date")
+            self.press(key, shows="Tuesday, 12 March 2024")
 
     def test_annotations(self):
         self.start("--language", "usa")
-        screen = self.press("g", "2024-03-20", "Enter", shows="Wednesday, 20 March 2024")
-        self.assertIn("Lunar date  day 11 of month 2, 2024\nSpring Equinox", screen)
-        self.assertIn("Mar 29  Good Friday", screen)  # the legend
-        self.assertIn(" L10       Equinox   L12 ", screen)
+        self.press("g", "2024-03-20", "Enter", shows=(
+            "Wednesday, 20 March 2024\nLunar date  day 11 of month 2, 2024\nSpring Equinox",
+            "Mar 29  Good Friday",  # the legend
+            " L10       Equinox   L12 "))
 
     def test_easter_after_another_year(self):
         self.start("--language", "usa", "--mode", "month")
@@ -145,8 +188,12 @@ class FullScreen(unittest.TestCase):
         self.start("--language", "eng")
         for width, height in ((40, 8), (12, 3), (1, 1), (100, 40)):
             self.tmux("resize-window", "-x", str(width), "-y", str(height))
-            time.sleep(0.1)
-            self.keys("j", "k")
+            if height > 1:  # one cell shows nothing
+                # The help and back, drawn at that size.
+                help_line, status = ((line[:width].rstrip() for line in
+                                      ("arrows, h j k l   move over the days", "? help  q quit")))
+                self.press("?", shows=(help_line, status))
+                self.press("x", shows=status)
         self.wait_for("Tuesday, 12 March 2024")
         self.keys("q")
         self.leaves_clean(0)
@@ -168,9 +215,48 @@ class FullScreen(unittest.TestCase):
             os.kill(int(children.read().split()[0]), signal.SIGTERM)
         self.leaves_clean(128 + signal.SIGTERM)
 
+    def test_quit_signal(self):
+        self.start()
+        self.keys("C-\\")
+        screen = self.wait_for("done")
+        self.assertIn(f"left with {128 + signal.SIGQUIT}\n", screen)
+        self.assertNotIn("March", screen)
+
+    def test_sizes_of_the_environment_do_not_count(self):
+        self.start("--language", "eng", variables={"LINES": "30000", "COLUMNS": "30000"})
+        self.wait_for("Tuesday, 12 March 2024", "Wk   Mon       Tue")
+
     def test_keys_the_calendar_does_not_know(self):
         self.start("--language", "eng")
-        self.press("F5", "z", "Home", "é", "l", shows="Wednesday, 13 March 2024")
+        self.press("F5", "z", "é", "l", shows="Wednesday, 13 March 2024")
+
+
+@needs_terminal
+class Terminals(unittest.TestCase):
+    def full_screen(self, **settings):
+        """The program on a pseudo-terminal that is not its controlling one."""
+        main, end = pty.openpty()
+        process = subprocess.Popen([BOARD, "--tui"], env=environment(**settings), stdin=end,
+                                   stdout=end, stderr=subprocess.PIPE, encoding="utf-8")
+        os.close(end)
+        return process, main
+
+    def test_ends_when_the_terminal_goes_away(self):
+        process, main = self.full_screen()
+        while b"quit" not in os.read(main, 65536):
+            pass
+        os.close(main)
+        _, errors = process.communicate(timeout=30)
+        self.assertEqual((process.returncode, errors),
+                         (1, "almara-board: the terminal went away\n"))
+
+    def test_a_terminal_that_cannot_move_the_cursor(self):
+        for terminal in ("dumb", "nosuchterm"):
+            process, main = self.full_screen(TERM=terminal)
+            _, errors = process.communicate(timeout=30)
+            os.close(main)
+            self.assertEqual(process.returncode, 2)
+            self.assertIn("this terminal cannot show a full screen (is TERM right?)", errors)
 
 
 if __name__ == "__main__":

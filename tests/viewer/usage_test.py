@@ -61,15 +61,33 @@ class Usage(unittest.TestCase):
             self.assertEqual((result.returncode, result.stdout), (2, ""), arguments)
             self.assertRegex(result.stderr, r"\Aalmara-board: [^\n]+\n\Z", arguments)
 
+    def test_a_clock_outside_the_calendar(self):
+        for today in ("1899-12-31", "2100-01-01"):
+            for arguments in ((), ("--json",), ("--list",), ("--mode", "month", "--next")):
+                result = run(*arguments, today=f"{today} 10:00:00")
+                self.assertEqual(
+                    (result.returncode, result.stdout, result.stderr),
+                    (1, "", f"almara-board: the clock says {today}, outside the years 1900 to "
+                            "2099; give a date or a year\n"))
+            for arguments in (("--date", "2024-02-10"), ("--day", "2024-02-10"),
+                              ("--list", "--year", "2024")):
+                self.assertIn("February", output(*arguments, today=f"{today} 10:00:00"))
+
+    def test_control_characters_of_an_argument_do_not_come_back(self):
+        result = run("--rows", "\x9b31m\x1b4")
+        self.assertEqual(result.stderr,
+                         "almara-board: --rows: expected a number from 1 to 50, not '?31m?4'\n")
+
     def test_the_last_offset_inside_the_calendar(self):
         self.assertIn("January 1900", output("--mode", "month", "--offset", "-1490"))
 
     def test_what_cannot_be_written_is_an_error(self):
-        with open("/dev/full", "w") as full:
-            result = subprocess.run([BOARD], env=environment(), stdout=full, stderr=subprocess.PIPE,
-                                    encoding="utf-8")
-        self.assertEqual((result.returncode, result.stderr),
-                         (1, "almara-board: could not write to the standard output\n"))
+        for arguments in ([], ["--help"], ["--version"], ["--json"]):
+            with open("/dev/full", "w") as full:
+                result = subprocess.run([BOARD, *arguments], env=environment(), stdout=full,
+                                        stderr=subprocess.PIPE, encoding="utf-8")
+            self.assertEqual((result.returncode, result.stderr),
+                             (1, "almara-board: could not write to the standard output\n"))
 
 
 if __name__ == "__main__":
