@@ -23,7 +23,7 @@ const std::string kDays[] = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
 // The engine writes every board that it builds to stdout; nothing of it arrives while this lives.
 class QuietStdout {
  public:
-  QuietStdout() : saved_(dup(STDOUT_FILENO)) {
+  QuietStdout() : m_saved(dup(STDOUT_FILENO)) {
     std::fflush(stdout);
     const int null = open("/dev/null", O_WRONLY);
     dup2(null, STDOUT_FILENO);
@@ -31,14 +31,14 @@ class QuietStdout {
   }
   ~QuietStdout() {
     std::fflush(stdout);
-    dup2(saved_, STDOUT_FILENO);
-    close(saved_);
+    dup2(m_saved, STDOUT_FILENO);
+    close(m_saved);
   }
   QuietStdout(const QuietStdout&) = delete;
   QuietStdout& operator=(const QuietStdout&) = delete;
 
  private:
-  const int saved_;
+  const int m_saved;
 };
 
 bool BuildBoard(const char* date) {

@@ -15,7 +15,7 @@ declare -A PACKAGES=(
   [coverage]="gcovr"
   [docs]="doxygen"
   [flutter]="clang cmake ninja-build pkg-config libgtk-3-dev libclang-dev python3 binutils"
-  [packages]="build-essential debhelper dpkg-dev fakeroot lintian debootstrap git"
+  [packages]="build-essential debhelper dpkg-dev fakeroot lintian debootstrap git python3"
   [bench]="libbenchmark-dev libicu-dev libswe-dev python3 binutils util-linux"
   [analysis]="clang clang-tidy clang-format shellcheck python3 git"
 )
