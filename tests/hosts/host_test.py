@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""One example host, given as the command line, against the viewer: the same month, line by line, and
-the same annotations of the date."""
+"""A sample host, given as the command line, against the viewer: the same month, line by line, and the
+same annotations of the date."""
 import json
 import os
 import subprocess
@@ -14,7 +14,7 @@ BOARD_OPTIONS = ("--mode", "month", "--no-month-interval", "--no-annotations", "
 A_SATURDAY = {"LD_PRELOAD": os.environ["ALMARA_LIBFAKETIME"], "FAKETIME": "2026-11-21 12:00:00",
               "FAKETIME_DONT_FAKE_MONOTONIC": "1"}
 
-# Behind a date, what the annotation functions say of it: a common day, a new year, a leap month, a
+# For each date, what the annotation functions say of it: a common day, a new year, a leap month, a
 # solar term, a festival of the solar calendar, a short title over a long month, a month of four
 # weeks, and both ends of the years that have a board.
 ANNOTATIONS = {
@@ -42,7 +42,7 @@ def board_of_host(date=None, **environment):
 
 
 def board_of_viewer(*options, **environment):
-    """The lines of the board; the viewer puts a bracket behind each week number."""
+    """The lines of the board; the viewer puts a bracket after each week number."""
     lines = output_of(VIEWER, *BOARD_OPTIONS, *options, **environment).splitlines()
     return lines[:2] + [f"{line[:6]} {line[7:]}" for line in lines[2:]]
 

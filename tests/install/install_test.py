@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""An installed tree: what each component holds, and that the C and C++ examples build against it
+"""An installed tree: what each component holds, and that the C and C++ hosts build against it
 by CMake and by pkg-config, also after the tree was moved, and do not build without it."""
 import os
 import shutil
