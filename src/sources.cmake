@@ -16,7 +16,6 @@ set(ALMARA_ENGINE_SOURCES
   board/week_number_spans.cpp
   lunar/calendar_lunar_converter.cpp
   lunar/calendar_lunar_solar_terms.cpp
-  lunar/date_key.cpp
   lunar/ecliptic_longitude.cpp
   lunar/historical_year.cpp
   lunar/julian_date.cpp

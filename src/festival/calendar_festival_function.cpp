@@ -4,22 +4,13 @@
 #include <almara/almara_types.h>
 
 #include <cstdint>
-#include <iterator>
 
 #include "date/day_run.h"
+#include "date/gregorian.h"
 
 namespace {
 
-constexpr int kMinYear = 1900;
-constexpr int kMaxYear = 2099;
-
 constexpr std::int32_t kNotComputed = -1;
-
-bool IsBoardMonth(int year, int month) {
-  return year >= kMinYear && year <= kMaxYear && month >= 1 && month <= 12;
-}
-
-bool IsLeapYear(int year) { return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0; }
 
 void Write(std::int32_t value, int* out) {
   if (out != nullptr) {
@@ -27,56 +18,18 @@ void Write(std::int32_t value, int* out) {
   }
 }
 
-// The constants of Gauss's rule, by the last year they hold for.
-struct GaussConstants {
-  int lastYear;
-  int m;
-  int n;
-};
-
-constexpr int kGaussFirstYear = 1583;
-constexpr GaussConstants kGaussConstants[] = {
-    {1699, 22, 2}, {1799, 23, 3}, {1899, 23, 4}, {2099, 24, 5}, {2199, 24, 6}, {2299, 25, 0},
-};
-
-// Null outside the years of the rule.
-const GaussConstants* GaussConstantsOf(int year) {
-  if (year < kGaussFirstYear) {
-    return nullptr;
-  }
-  for (const GaussConstants& constants : kGaussConstants) {
-    if (year <= constants.lastYear) {
-      return &constants;
-    }
-  }
-  return nullptr;
-}
-
 struct MonthDay {
   int month;
   int day;
 };
 
-// Easter Sunday by Gauss's rule.
-MonthDay GaussEaster(int year, const GaussConstants& constants) {
-  const int a = year % 19;
-  const int d = (19 * a + constants.m) % 30;
-  const int e = (2 * (year % 4) + 4 * (year % 7) + 6 * d + constants.n) % 7;
-  if (d + e < 10) {
-    return {3, d + e + 22};
-  }
-  const int day = d + e - 9;
-  if (day == 26) {
-    return {4, 19};
-  }
-  if (day == 25 && d == 28 && e >= 6 && a >= 11) {
-    return {4, 18};
-  }
-  return {4, day};
-}
-
-// Easter Sunday by the anonymous Gregorian rule. Before year 1 the date means nothing, but is one
-// of February to April.
+// Given
+//   year   Gregorian
+// Returned
+//   Easter Sunday. Before year 1 the date means nothing, but is one of February to April.
+// Reference
+//   J. Meeus, Astronomical Algorithms, second edition 1998, chapter 8; first printed without a name
+//   in Nature, 20 April 1876
 MonthDay AnonymousEaster(int year) {
   const int a = year % 19;
   const int b = year / 100;
@@ -114,9 +67,8 @@ EasterCache easterCache;
 
 // The Friday at or before a date. A date that the system cannot convert gives all zeroes.
 CCalendarSolarDate FridayBefore(CCalendarSolarDate date) {
-  constexpr int kDaysOfWeek = 7;
   const almara::DayRun run(date.year, date.month, date.day);
-  for (int offset = 0; offset > -kDaysOfWeek; --offset) {
+  for (int offset = 0; offset > -almara::kDaysOfWeek; --offset) {
     CCalendarSolarDate earlier{};
     if (run.DateAt(offset, earlier) && earlier.dayOfWeek == eCalendarWeekFriday) {
       return earlier;
@@ -126,9 +78,6 @@ CCalendarSolarDate FridayBefore(CCalendarSolarDate date) {
 }
 
 }  // namespace
-
-const int CCalendarFestivalFunction::s_ArrDaysOfSolarMonth[12] = {31, 28, 31, 30, 31, 30,
-                                                                  31, 31, 30, 31, 30, 31};
 
 int CCalendarFestivalFunction::_GetDayByWeekNumberOfMonth(int year, int month, int n, int weekday) {
   const int days = _GetMaxDaysOfSolarMonth(year, month);
@@ -147,27 +96,7 @@ int CCalendarFestivalFunction::_GetDayByWeekNumberOfMonth(int year, int month, i
 }
 
 int CCalendarFestivalFunction::_GetMaxDaysOfSolarMonth(int year, int month) {
-  if (!IsBoardMonth(year, month)) {
-    return -1;
-  }
-  return month == 2 && IsLeapYear(year) ? 29 : s_ArrDaysOfSolarMonth[month - 1];
-}
-
-int CCalendarFestivalFunction::_GetEasterDay(int year, int* month, int* day) {
-  static std::int32_t suEasterMonth = kNotComputed;
-  static std::int32_t suEasterDay = kNotComputed;
-  if (suEasterMonth == kNotComputed) {
-    const GaussConstants* constants = GaussConstantsOf(year);
-    if (constants == nullptr || month == nullptr || day == nullptr) {
-      return 0;
-    }
-    const MonthDay easter = GaussEaster(year, *constants);
-    suEasterMonth = easter.month;
-    suEasterDay = easter.day;
-  }
-  Write(suEasterMonth, month);
-  Write(suEasterDay, day);
-  return 1;
+  return almara::IsBoardDate(year, month, 1) ? almara::DaysOfMonth(year, month) : -1;
 }
 
 int CCalendarFestivalFunction::_GetEasterDay2(int year, int* month, int* day) {
@@ -200,5 +129,82 @@ int CCalendarFestivalFunction::_GetGoodFriday(int year, int* month, int* day) {
   suGoodFridayDay = friday.day;
   *month = suGoodFridayMonth;
   *day = suGoodFridayDay;
+  return 1;
+}
+
+// ---- Interface that nothing in the library calls ----
+
+const int CCalendarFestivalFunction::s_ArrDaysOfSolarMonth[12] = {31, 28, 31, 30, 31, 30,
+                                                                  31, 31, 30, 31, 30, 31};
+
+namespace {
+
+// The constants of Gauss's rule, by the last year they hold for.
+struct GaussConstants {
+  int lastYear;
+  int m;
+  int n;
+};
+
+constexpr int kGaussFirstYear = 1583;
+constexpr GaussConstants kGaussConstants[] = {
+    {1699, 22, 2}, {1799, 23, 3}, {1899, 23, 4}, {2099, 24, 5}, {2199, 24, 6}, {2299, 25, 0},
+};
+
+// Null outside the years of the rule.
+const GaussConstants* GaussConstantsOf(int year) {
+  if (year < kGaussFirstYear) {
+    return nullptr;
+  }
+  for (const GaussConstants& constants : kGaussConstants) {
+    if (year <= constants.lastYear) {
+      return &constants;
+    }
+  }
+  return nullptr;
+}
+
+// Given
+//   year        of the span of constants
+//   constants   M and N of the century
+// Returned
+//   Easter Sunday
+// Reference
+//   C. F. Gauss, Berechnung des Osterfestes (Monatliche Correspondenz zur Beförderung der Erd- und
+//   Himmels-Kunde), 1800
+MonthDay GaussEaster(int year, const GaussConstants& constants) {
+  const int a = year % 19;
+  const int d = (19 * a + constants.m) % 30;
+  const int e = (2 * (year % 4) + 4 * (year % 7) + 6 * d + constants.n) % 7;
+  if (d + e < 10) {
+    return {3, d + e + 22};
+  }
+  const int day = d + e - 9;
+  if (day == 26) {
+    return {4, 19};
+  }
+  if (day == 25 && d == 28 && e >= 6 && a >= 11) {
+    return {4, 18};
+  }
+  return {4, day};
+}
+
+}  // namespace
+
+int CCalendarFestivalFunction::_GetEasterDay(int year, int* month, int* day) {
+  // The first year computed is kept for the life of the process.
+  static std::int32_t suEasterMonth = kNotComputed;
+  static std::int32_t suEasterDay = kNotComputed;
+  if (suEasterMonth == kNotComputed) {
+    const GaussConstants* constants = GaussConstantsOf(year);
+    if (constants == nullptr || month == nullptr || day == nullptr) {
+      return 0;
+    }
+    const MonthDay easter = GaussEaster(year, *constants);
+    suEasterMonth = easter.month;
+    suEasterDay = easter.day;
+  }
+  Write(suEasterMonth, month);
+  Write(suEasterDay, day);
   return 1;
 }

@@ -7,9 +7,6 @@
 // whole process and without a lock: call them from one thread.
 class CCalendarFestivalFunction {
  public:
-  // January to December of a common year.
-  static const int s_ArrDaysOfSolarMonth[12];
-
   // The day of the month of its n-th given weekday, n from 1. -1 outside 1900 to 2099 and months 1
   // to 12 and where the month has no such day; the count runs one day past the month's end, so a
   // fifth weekday may also be 1, the first day of the next month.
@@ -17,13 +14,6 @@ class CCalendarFestivalFunction {
 
   // 28 to 31; -1 outside 1900 to 2099 and months 1 to 12.
   static int _GetMaxDaysOfSolarMonth(int year, int month);
-
-  // Easter Sunday of 1583 to 2299 by Gauss's rule. 1 with month and day written; 0, nothing
-  // written, outside these years or where a pointer is null.
-  //
-  // The first year computed answers every later call of the process, whatever year it asks for;
-  // there a null pointer is left alone.
-  static int _GetEasterDay(int year, int* month, int* day);
 
   // Easter Sunday of any year by the anonymous Gregorian rule. Always 1.
   //
@@ -36,6 +26,18 @@ class CCalendarFestivalFunction {
   // null. Where the day computed last equals the year, the month computed last is written with the
   // year as the day, so a year 1 to 31 may answer with another year's date.
   static int _GetGoodFriday(int year, int* month, int* day);
+
+  // ---- Interface that nothing in the library calls, kept for code written against this class ----
+
+  // January to December of a common year.
+  static const int s_ArrDaysOfSolarMonth[12];
+
+  // Easter Sunday of 1583 to 2299 by Gauss's rule. 1 with month and day written; 0, nothing
+  // written, outside these years or where a pointer is null.
+  //
+  // The first year computed answers every later call of the process, whatever year it asks for;
+  // there a null pointer is left alone.
+  static int _GetEasterDay(int year, int* month, int* day);
 };
 
 #endif  // ALMARA_FESTIVAL_CALENDAR_FESTIVAL_FUNCTION_H_

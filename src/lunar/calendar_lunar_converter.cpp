@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "lunar/calendar_lunar_converter.h"
 
+#include <cstdio>
 #include <optional>
 
 #include "date/calendar_platform_api.h"
-#include "lunar/date_key.h"
 #include "lunar/ecliptic_longitude.h"
 #include "lunar/longitude_search.h"
 #include "lunar/lunar_date.h"
@@ -12,6 +12,12 @@
 namespace {
 
 double Zone() { return CalendarPlatformApi::PlatformGetTimeZoneValue(); }
+
+std::string DateOf2017(int month, int day) {
+  char text[16];
+  std::snprintf(text, sizeof text, "2017-%02d-%02d", month, day);
+  return text;
+}
 
 template <typename Out>
 int Write(const std::optional<almara::SunCrossing>& found, Out* out) {
@@ -27,9 +33,8 @@ int Write(const std::optional<almara::SunCrossing>& found, Out* out) {
 CCalendarLunarConverter::CCalendarLunarConverter() {
   for (const int month : {2, 3}) {
     for (int day = 1; day <= 31; ++day) {
-      const CCalendarSolarDate date{2017, month, day, 0};
-      if (const int lunarDay = almara::FixedLunarDay(date); lunarDay != 0) {
-        m_mapLunarDateCorrection[almara::DateKey(date)] = almara::DateKey({2017, 2, lunarDay, 0});
+      if (const int lunarDay = almara::FixedLunarDay({2017, month, day, 0}); lunarDay != 0) {
+        m_mapLunarDateCorrection[DateOf2017(month, day)] = DateOf2017(2, lunarDay);
       }
     }
   }

@@ -44,8 +44,8 @@ double SekkiSeriesSum(double days) {
 // Returned
 //   degrees, 0 to below 360
 // Reference
-//   J. Meeus, Astronomical Algorithms, 1991, chapter 24: the correction for nutation and aberration
-//   that goes with the low-accuracy longitude of the Sun, rounded
+//   J. Meeus, Astronomical Algorithms, second edition 1998, chapter 25: the correction for nutation
+//   and aberration that goes with the longitude of lower accuracy, rounded
 double SekkiSunLongitude(double days) {
   double longitude =
       SekkiSeriesSum(days) + 0.0048 * Cosine(days * 1934 / kDaysPerCentury + 145) - 0.0057;

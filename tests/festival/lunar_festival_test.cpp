@@ -7,12 +7,15 @@
 
 #include "date/calendar_platform_api.h"
 #include "festival/calendar_festival.h"
+#include "festival/lunar_festival_rules.h"
 #include "logic/calendar_logic.h"
 
 namespace {
 
 constexpr int kMin = std::numeric_limits<int>::min();
 constexpr int kMax = std::numeric_limits<int>::max();
+
+using Year = std::map<std::pair<int, int>, EFestivalLunar>;  // by lunar month and day
 
 class LunarFestivals : public testing::Test {
  protected:
@@ -22,10 +25,10 @@ class LunarFestivals : public testing::Test {
     return m_festival.GetFestivalByLunar(language, {year, month, day, 0});
   }
 
-  // The codes of every day from 2024-02-10, lunar 2024-1-1, to 2025-01-28, the eve of 2025, by
-  // lunar month and day. 2024 has no leap month.
-  std::map<std::pair<int, int>, EFestivalLunar> FestivalsOfLunar2024(ELanguage language) {
-    std::map<std::pair<int, int>, EFestivalLunar> found;
+  // The codes of every day from 2024-02-10, lunar 2024-1-1, to 2025-01-28, the eve of 2025. 2024
+  // has no leap month.
+  Year FestivalsOfLunar2024(ELanguage language) {
+    Year found;
     CCalendarSolarDate date{2024, 2, 10, 0};
     for (int i = 0; i < 354; ++i) {
       const CCalendarLunarDate lunar = m_owner.ConverterLunar(date);
@@ -42,47 +45,49 @@ class LunarFestivals : public testing::Test {
   CCalendarFestival m_festival{&m_owner};
 };
 
-using Year = std::map<std::pair<int, int>, EFestivalLunar>;
+// clang-format off
+const std::map<ELanguage, Year> kLunar2024 = {
+    {eLanguageChs, {
+        {{1, 1}, eFestivalLunarNewYearsDay},
+        {{1, 15}, eFestivalLunarLanternFestival},
+        {{5, 5}, eFestivalLunarDragonBoat},
+        {{7, 7}, eFestivalLunarDoubleSeventh},
+        {{7, 15}, eFestivalLunarGhostFestival},
+        {{8, 15}, eFestivalLunarMidAutumn},
+        {{9, 9}, eFestivalLunarDoubleNinth},
+        {{12, 8}, eFestivalLunarLaba},
+        {{12, 23}, eFestivalLunarLittleNewYear},
+        {{12, 29}, eFestivalLunarNewYearsEve}}},
+    {eLanguageCht, {
+        {{1, 1}, eFestivalLunarNewYearsDay},
+        {{1, 15}, eFestivalLunarLanternFestival},
+        {{5, 5}, eFestivalLunarDragonBoat},
+        {{7, 7}, eFestivalLunarDoubleSeventh},
+        {{7, 15}, eFestivalLunarGhostFestival},
+        {{8, 15}, eFestivalLunarMidAutumn},
+        {{9, 9}, eFestivalLunarDoubleNinth},
+        {{12, 8}, eFestivalLunarLaba},
+        {{12, 29}, eFestivalLunarNewYearsEve}}},
+    {eLanguageKor, {
+        {{1, 1}, eFestivalLunarNewYearsDay},
+        {{4, 8}, eFestivalLunarBuddhasBirthday},
+        {{8, 15}, eFestivalLunarMidAutumn}}},
+    {eLanguageVit, {
+        {{1, 1}, eFestivalLunarNewYearsDay},
+        {{1, 15}, eFestivalLunarLanternFestival},
+        {{3, 10}, eFestivalLunarHungKings},
+        {{5, 5}, eFestivalLunarDragonBoat},
+        {{7, 15}, eFestivalLunarGhostFestival},
+        {{8, 15}, eFestivalLunarMidAutumn},
+        {{9, 9}, eFestivalLunarDoubleNinth},
+        {{12, 29}, eFestivalLunarNewYearsEve}}},
+};
+// clang-format on
 
-TEST_F(LunarFestivals, Chs) {
-  EXPECT_EQ(FestivalsOfLunar2024(eLanguageChs), (Year{{{1, 1}, 20000},
-                                                      {{1, 15}, 20001},
-                                                      {{5, 5}, 20002},
-                                                      {{7, 7}, 20003},
-                                                      {{7, 15}, 20004},
-                                                      {{8, 15}, 20005},
-                                                      {{9, 9}, 20006},
-                                                      {{12, 8}, 20007},
-                                                      {{12, 23}, 20008},
-                                                      {{12, 29}, 20009}}));
-}
-
-TEST_F(LunarFestivals, Cht) {
-  EXPECT_EQ(FestivalsOfLunar2024(eLanguageCht), (Year{{{1, 1}, 20000},
-                                                      {{1, 15}, 20001},
-                                                      {{5, 5}, 20002},
-                                                      {{7, 7}, 20003},
-                                                      {{7, 15}, 20004},
-                                                      {{8, 15}, 20005},
-                                                      {{9, 9}, 20006},
-                                                      {{12, 8}, 20007},
-                                                      {{12, 29}, 20009}}));
-}
-
-TEST_F(LunarFestivals, Kor) {
-  EXPECT_EQ(FestivalsOfLunar2024(eLanguageKor),
-            (Year{{{1, 1}, 20000}, {{4, 8}, 20010}, {{8, 15}, 20005}}));
-}
-
-TEST_F(LunarFestivals, Vit) {
-  EXPECT_EQ(FestivalsOfLunar2024(eLanguageVit), (Year{{{1, 1}, 20000},
-                                                      {{1, 15}, 20001},
-                                                      {{3, 10}, 20012},
-                                                      {{5, 5}, 20002},
-                                                      {{7, 15}, 20004},
-                                                      {{8, 15}, 20005},
-                                                      {{9, 9}, 20006},
-                                                      {{12, 29}, 20009}}));
+TEST_F(LunarFestivals, OfTheYear2024) {
+  for (const auto& [language, expected] : kLunar2024) {
+    EXPECT_EQ(FestivalsOfLunar2024(language), expected) << language;
+  }
 }
 
 TEST_F(LunarFestivals, NoneForOtherLanguages) {
@@ -93,69 +98,53 @@ TEST_F(LunarFestivals, NoneForOtherLanguages) {
 
 TEST_F(LunarFestivals, TheEveIsThe29thOrThe30th) {
   // Month 12 of 2023 has 30 days, that of 2024 has 29.
-  EXPECT_EQ(Festival(eLanguageChs, 2024, 2, 8), 0);
+  EXPECT_EQ(Festival(eLanguageChs, 2024, 2, 8), eFestivalLunarNone);
   EXPECT_EQ(Festival(eLanguageChs, 2024, 2, 9), eFestivalLunarNewYearsEve);
   EXPECT_EQ(Festival(eLanguageChs, 2024, 2, 10), eFestivalLunarNewYearsDay);
   EXPECT_EQ(Festival(eLanguageChs, 2025, 1, 28), eFestivalLunarNewYearsEve);
-  EXPECT_EQ(Festival(eLanguageChs, 2025, 1, 29), eFestivalLunarNewYearsDay);
-}
-
-TEST_F(LunarFestivals, KorHasNoEveAndNoLanternFestival) {
-  EXPECT_EQ(Festival(eLanguageKor, 2024, 2, 9), 0);
-  EXPECT_EQ(Festival(eLanguageKor, 2024, 2, 24), 0);
-  EXPECT_EQ(Festival(eLanguageChs, 2024, 2, 24), eFestivalLunarLanternFestival);
-}
-
-TEST_F(LunarFestivals, ChtHasNothingOn12And23) {
-  EXPECT_EQ(Festival(eLanguageChs, 2024, 2, 2), eFestivalLunarLittleNewYear);
-  EXPECT_EQ(Festival(eLanguageCht, 2024, 2, 2), 0);
 }
 
 TEST_F(LunarFestivals, LeapMonthsHaveNone) {
   // 2009: 5 of month 5 on 28 May, 5 of leap month 5 on 27 June.
-  ASSERT_EQ(m_owner.ConverterLunar({2009, 6, 27, 0}).month, 5);
-  ASSERT_EQ(m_owner.ConverterLunar({2009, 6, 27, 0}).day, 5);
-  ASSERT_EQ(m_owner.ConverterLunar({2009, 6, 27, 0}).leap, 1);
+  const CCalendarLunarDate leap = m_owner.ConverterLunar({2009, 6, 27, 0});
+  ASSERT_EQ(leap.month * 100 + leap.day, 505);
+  ASSERT_EQ(leap.leap, 1);
   EXPECT_EQ(Festival(eLanguageChs, 2009, 5, 28), eFestivalLunarDragonBoat);
-  EXPECT_EQ(Festival(eLanguageChs, 2009, 6, 27), 0);
+  EXPECT_EQ(Festival(eLanguageChs, 2009, 6, 27), eFestivalLunarNone);
 }
 
-TEST_F(LunarFestivals, NoneAtTheEndOfTheCorrectedMonth) {
-  for (const ELanguage language : {eLanguageChs, eLanguageKor, eLanguageCht, eLanguageVit}) {
-    EXPECT_EQ(Festival(language, 2017, 3, 27), 0);
+TEST_F(LunarFestivals, NoneAtTheEndOfTheFixedMonth) {
+  for (const auto& [language, year] : kLunar2024) {
+    EXPECT_EQ(Festival(language, 2017, 3, 27), eFestivalLunarNone);
   }
 }
 
 TEST_F(LunarFestivals, NoneWithoutAnOwner) {
-  const CCalendarFestival orphan(nullptr);
-  for (const ELanguage language : {eLanguageChs, eLanguageKor, eLanguageCht, eLanguageVit}) {
-    EXPECT_EQ(orphan.GetFestivalByLunar(language, {2024, 2, 10, 0}), 0);
+  CCalendarLogic* const nobody = nullptr;
+  for (const CCalendarFestival& orphan : {CCalendarFestival(nullptr), CCalendarFestival(nobody)}) {
+    for (const auto& [language, year] : kLunar2024) {
+      EXPECT_EQ(orphan.GetFestivalByLunar(language, {2024, 2, 10, 0}), eFestivalLunarNone);
+    }
+    EXPECT_EQ(orphan._GetLunarDate({2024, 2, 10, 0}).month, 0);
   }
-  EXPECT_EQ(orphan._GetLunarDate({2024, 2, 10, 0}).month, 0);
-  EXPECT_EQ(orphan._GetFestivalByLunarChs({2024, 2, 9, 0}), 0);
 }
 
 TEST_F(LunarFestivals, TheLunarDateIsTheOwners) {
-  const CCalendarLunarDate lunar = m_festival._GetLunarDate({2024, 2, 10, 0});
-  EXPECT_EQ(lunar.year, 2024);
-  EXPECT_EQ(lunar.month, 1);
-  EXPECT_EQ(lunar.day, 1);
+  struct {
+    CCalendarLunarDate ConverterLunar(CCalendarSolarDate date) const {
+      return {date.year, 8, 15, 0, 0};
+    }
+  } owner;
+  const CCalendarFestival festival(&owner);
+  EXPECT_EQ(festival._GetLunarDate({2024, 2, 10, 0}).day, 15);
+  EXPECT_EQ(festival.GetFestivalByLunar(eLanguageKor, {2024, 2, 10, 0}), eFestivalLunarMidAutumn);
 }
 
 TEST_F(LunarFestivals, OneRegionAlone) {
-  EXPECT_EQ(m_festival._GetFestivalByLunarChs({2024, 2, 9, 0}), 20009);
-  EXPECT_EQ(m_festival._GetFestivalByLunarCht({2024, 2, 9, 0}), 20009);
-  EXPECT_EQ(m_festival._GetFestivalByLunarKor({2024, 2, 9, 0}), 0);
-  EXPECT_EQ(m_festival._GetFestivalByLunarVit({2024, 4, 18, 0}), 20012);
-}
-
-TEST_F(LunarFestivals, EveryIntIsAnswered) {
-  for (const int value : {kMin, kMin + 1, -1, 0, kMax - 1, kMax}) {
-    Festival(eLanguageChs, value, 1, 1);
-    Festival(eLanguageChs, 2024, value, 1);
-    Festival(eLanguageChs, 2024, 1, value);
-    Festival(value, 2024, 1, 1);
-  }
+  EXPECT_EQ(m_festival._GetFestivalByLunarChs({2024, 2, 2, 0}), eFestivalLunarLittleNewYear);
+  EXPECT_EQ(m_festival._GetFestivalByLunarCht({2024, 2, 9, 0}), eFestivalLunarNewYearsEve);
+  EXPECT_EQ(m_festival._GetFestivalByLunarKor({2024, 5, 15, 0}), eFestivalLunarBuddhasBirthday);
+  EXPECT_EQ(m_festival._GetFestivalByLunarVit({2024, 4, 18, 0}), eFestivalLunarHungKings);
 }
 
 // Far away, where the method finds a leap month 12: the month before it ends on 21 January 5572.
@@ -167,6 +156,31 @@ TEST_F(LunarFestivals, AMonth12ThatALeapMonthFollowsHasNoEve) {
     EXPECT_EQ(Festival(language, 5572, 2, 19), eFestivalLunarNone) << "a day of the leap month";
     EXPECT_EQ(Festival(language, 5572, 2, 20), eFestivalLunarNewYearsDay);
   }
+}
+
+// ---- The rule by lunar dates alone ----
+
+TEST(LunarFestivalRule, AsksForTheNextDayOnlyWhereItDecides) {
+  int asked = 0;
+  const auto festival = [&](ELanguage language, CCalendarLunarDate lunar, CCalendarLunarDate next) {
+    return almara::LunarFestival(language, lunar, [&] {
+      ++asked;
+      return next;
+    });
+  };
+  const CCalendarLunarDate newYear{2025, 1, 1, 0, 0};
+  EXPECT_EQ(festival(eLanguageChs, {2024, 12, 23, 0, 0}, newYear), eFestivalLunarLittleNewYear);
+  EXPECT_EQ(festival(eLanguageKor, {2024, 12, 29, 0, 0}, newYear), eFestivalLunarNone);
+  EXPECT_EQ(festival(eLanguageChs, {2024, 12, 29, 0, 1}, newYear), eFestivalLunarNone);
+  EXPECT_EQ(festival(eLanguageChs, {2024, 11, 30, 0, 0}, newYear), eFestivalLunarNone);
+  EXPECT_EQ(asked, 0);
+  EXPECT_EQ(festival(eLanguageCht, {2024, 12, 23, 0, 0}, {2024, 12, 24, 0, 0}), eFestivalLunarNone);
+  EXPECT_EQ(festival(eLanguageChs, {2024, 12, 29, 0, 0}, newYear), eFestivalLunarNewYearsEve);
+  EXPECT_EQ(festival(eLanguageChs, {2024, 12, 29, 0, 0}, {2025, 1, 2, 0, 0}), eFestivalLunarNone);
+  // Whether the next month is a leap month is not asked.
+  EXPECT_EQ(festival(eLanguageChs, {2024, 12, 29, 0, 0}, {2025, 1, 1, 0, 1}),
+            eFestivalLunarNewYearsEve);
+  EXPECT_EQ(asked, 4);
 }
 
 }  // namespace

@@ -52,12 +52,12 @@ TEST_F(AnnotationMemo, ASecondQueryComputesNothing) {
     return CCalendarLunarDate{1, 2, 3, 4, 5};
   });
   engine.m_map24SekkiCache.GetOrCompute(0, date, [] { return 77; });
-  engine.m_mapFestivalSolarCache.GetOrCompute(1, date, [] { return 78; });
-  engine.m_mapFestivalLunarCache.GetOrCompute(1, date, [] { return 79; });
+  engine.m_mapFestivalSolarCache.GetOrCompute(eLanguageChs, date, [] { return 78; });
+  engine.m_mapFestivalLunarCache.GetOrCompute(eLanguageChs, date, [] { return 79; });
   EXPECT_EQ(engine.ConverterLunar(date).day, 3);
   EXPECT_EQ(engine.Check24Sekki(date), 77);
-  EXPECT_EQ(engine.CheckFestivalSolar(1, date), 78);
-  EXPECT_EQ(engine.CheckFestivalLunar(1, date), 79);
+  EXPECT_EQ(engine.CheckFestivalSolar(eLanguageChs, date), 78);
+  EXPECT_EQ(engine.CheckFestivalLunar(eLanguageChs, date), 79);
 }
 
 TEST_F(AnnotationMemo, TheDayOfTheWeekIsNotPartOfTheKey) {
@@ -77,43 +77,37 @@ TEST_F(AnnotationMemo, TheDayOfTheWeekIsNotPartOfTheKey) {
 }
 
 TEST_F(AnnotationMemo, KeepsAFestivalForEachLanguage) {
-  engine.CheckFestivalSolar(1, {2024, 1, 1, 0});
-  engine.CheckFestivalSolar(8, {2024, 1, 1, 0});
+  engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 1, 0});
+  engine.CheckFestivalSolar(eLanguageEng, {2024, 1, 1, 0});
   ASSERT_EQ(engine.m_mapFestivalSolarCache.Size(), 2U);
-  EXPECT_NE(engine.m_mapFestivalSolarCache.Find(1, {2024, 1, 1, 0}), nullptr);
-  EXPECT_NE(engine.m_mapFestivalSolarCache.Find(8, {2024, 1, 1, 0}), nullptr);
+  EXPECT_NE(engine.m_mapFestivalSolarCache.Find(eLanguageChs, {2024, 1, 1, 0}), nullptr);
+  EXPECT_NE(engine.m_mapFestivalSolarCache.Find(eLanguageEng, {2024, 1, 1, 0}), nullptr);
 }
 
 TEST_F(AnnotationMemo, KeepsTheAnswerThatThereIsNone) {
-  engine.CheckFestivalSolar(1, {2024, 1, 9, 0});
-  engine.CheckFestivalLunar(3, {2024, 1, 9, 0});
+  engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 9, 0});
+  engine.CheckFestivalLunar(eLanguageUsa, {2024, 1, 9, 0});
   engine.Check24Sekki({2024, 1, 9, 0});
-  EXPECT_EQ(*engine.m_mapFestivalSolarCache.Find(1, {2024, 1, 9, 0}), 0);
-  EXPECT_EQ(*engine.m_mapFestivalLunarCache.Find(3, {2024, 1, 9, 0}), 0);
+  EXPECT_EQ(*engine.m_mapFestivalSolarCache.Find(eLanguageChs, {2024, 1, 9, 0}), 0);
+  EXPECT_EQ(*engine.m_mapFestivalLunarCache.Find(eLanguageUsa, {2024, 1, 9, 0}), 0);
   EXPECT_EQ(*engine.m_map24SekkiCache.Find(0, {2024, 1, 9, 0}), -1);
-}
-
-TEST_F(AnnotationMemo, KeysOfUnusualDates) {
-  engine.ConverterLunar({987, 3, 5, 0});
-  engine.ConverterLunar({-1, 1, 1, 0});
-  EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {987, 3, 5, 0}), nullptr);
-  EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {-1, 1, 1, 0}), nullptr);
-  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 2U);
 }
 
 TEST_F(AnnotationMemo, KeepsEveryInt) {
   engine.CheckFestivalSolar(kMin, {kMin, kMin, kMin, kMin});
   engine.CheckFestivalLunar(kMax, {kMax, kMax, kMax, kMax});
+  engine.ConverterLunar({-1, 1, 1, 0});
   EXPECT_NE(engine.m_mapFestivalSolarCache.Find(kMin, {kMin, kMin, kMin, 0}), nullptr);
   EXPECT_NE(engine.m_mapFestivalLunarCache.Find(kMax, {kMax, kMax, kMax, 0}), nullptr);
+  EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {-1, 1, 1, 0}), nullptr);
 }
 
 TEST_F(AnnotationMemo, DaysThatShareAPageKeepTheirOwnAnswers) {
-  engine.CheckFestivalSolar(1, {2024, 1, 33, 0});
-  EXPECT_EQ(engine.m_mapFestivalSolarCache.Find(1, {2024, 1, 1, 0}), nullptr);
-  EXPECT_EQ(engine.CheckFestivalSolar(1, {2024, 1, 1, 0}), eFestivalSolarNewYearsDay);
-  EXPECT_EQ(engine.CheckFestivalSolar(1, {2024, 1, 33, 0}), eFestivalSolarNone);
-  EXPECT_EQ(engine.CheckFestivalSolar(1, {2024, 1, -31, 0}), eFestivalSolarNone);
+  engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 33, 0});
+  EXPECT_EQ(engine.m_mapFestivalSolarCache.Find(eLanguageChs, {2024, 1, 1, 0}), nullptr);
+  EXPECT_EQ(engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 1, 0}), eFestivalSolarNewYearsDay);
+  EXPECT_EQ(engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 33, 0}), eFestivalSolarNone);
+  EXPECT_EQ(engine.CheckFestivalSolar(eLanguageChs, {2024, 1, -31, 0}), eFestivalSolarNone);
   EXPECT_EQ(engine.m_mapFestivalSolarCache.Size(), 3U);
 }
 

@@ -16,7 +16,6 @@
 #include "lunar/julian_date.h"
 #include "lunar/lunar_quarter.h"
 #include "yardstick/days.h"
-#include "yardstick/engine.h"
 #include "yardstick/solar_terms.h"
 
 namespace {
@@ -154,18 +153,6 @@ TEST(Identity, InstantsOfSolarTermsHaveTheSameBits) {
       ASSERT_TRUE(HaveEqualBits(terms._Sunlongdays(year, longitude),
                                 yardstick::Sunlongdays(year, longitude)))
           << year << ' ' << longitude;
-    }
-  }
-}
-
-TEST(Identity, LunarFestivals) {
-  g_mac_timezone = 8;
-  CCalendarLogic engine;
-  yardstick::Engine plain;
-  for (const CCalendarSolarDate& day : DaysOfYears(1900, 2099)) {
-    for (ELanguage language = -1; language <= 12; ++language) {
-      ASSERT_EQ(engine.CheckFestivalLunar(language, day), plain.CheckFestivalLunar(language, day))
-          << language << ' ' << day.year << '-' << day.month << '-' << day.day;
     }
   }
 }

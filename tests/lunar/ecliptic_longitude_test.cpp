@@ -1,33 +1,36 @@
 // SPDX-License-Identifier: MIT
+#include "lunar/ecliptic_longitude.h"
+
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
-
-#include "lunar/calendar_lunar_converter.h"
 
 namespace {
 
-using Converter = CCalendarLunarConverter;
+using almara::MoonLongitude;
+using almara::NormalizedAngle;
+using almara::SunLongitude;
 
 TEST(NormalizedAngle, ReducesToOneTurn) {
-  EXPECT_EQ(Converter::_NORMALIZATION_ANGLE(0), 0);
-  EXPECT_EQ(Converter::_NORMALIZATION_ANGLE(360), 0);
-  EXPECT_EQ(Converter::_NORMALIZATION_ANGLE(725), 5);
-  EXPECT_EQ(Converter::_NORMALIZATION_ANGLE(359.5), 359.5);
-  EXPECT_EQ(Converter::_NORMALIZATION_ANGLE(-10), 350);
-  EXPECT_EQ(Converter::_NORMALIZATION_ANGLE(-370), 350);
+  EXPECT_EQ(NormalizedAngle(0), 0);
+  EXPECT_EQ(NormalizedAngle(360), 0);
+  EXPECT_EQ(NormalizedAngle(725), 5);
+  EXPECT_EQ(NormalizedAngle(359.5), 359.5);
+  EXPECT_EQ(NormalizedAngle(-10), 350);
+  EXPECT_EQ(NormalizedAngle(-370), 350);
 }
 
 TEST(NormalizedAngle, GivesAFullTurnForNegativeMultiples) {
-  EXPECT_EQ(Converter::_NORMALIZATION_ANGLE(-360), 360);
-  EXPECT_EQ(Converter::_NORMALIZATION_ANGLE(-720), 360);
+  EXPECT_EQ(NormalizedAngle(-360), 360);
+  EXPECT_EQ(NormalizedAngle(-720), 360);
 }
 
 TEST(NormalizedAngle, HoldsUpToTheTurnsThatFit32Bits) {
-  EXPECT_EQ(Converter::_NORMALIZATION_ANGLE(2147483647.0 * 360 + 90), 90);
-  EXPECT_EQ(Converter::_NORMALIZATION_ANGLE(-2147483647.0 * 360 - 90), 270);
+  EXPECT_EQ(NormalizedAngle(2147483647.0 * 360 + 90), 90);
+  EXPECT_EQ(NormalizedAngle(-2147483647.0 * 360 - 90), 270);
   // One turn more becomes -2147483648 turns.
-  EXPECT_EQ(Converter::_NORMALIZATION_ANGLE(2147483648.0 * 360 + 90), 2 * 2147483648.0 * 360 + 90);
+  EXPECT_EQ(NormalizedAngle(2147483648.0 * 360 + 90), 2 * 2147483648.0 * 360 + 90);
 }
 
 struct Longitudes {
@@ -36,7 +39,7 @@ struct Longitudes {
   double moon;
 };
 
-// Sums of the printed series, worked out apart from this code.
+// Sums of the series, worked out apart from this code.
 constexpr Longitudes kLongitudes[] = {
     {-2.0, 278.9064612684356, 329.19517166997497},
     {-1.0, 279.64421514400175, 265.2991345226087},
@@ -48,34 +51,34 @@ constexpr Longitudes kLongitudes[] = {
 
 TEST(Longitude, IsTheSumOfTheSeries) {
   for (const Longitudes& expected : kLongitudes) {
-    EXPECT_NEAR(Converter::_LONGITUDE_SUN(expected.centuries), expected.sun, 1e-9);
-    EXPECT_NEAR(Converter::_LONGITUDE_MOON(expected.centuries), expected.moon, 1e-9);
+    EXPECT_NEAR(SunLongitude(expected.centuries), expected.sun, 1e-9);
+    EXPECT_NEAR(MoonLongitude(expected.centuries), expected.moon, 1e-9);
   }
 }
 
 // Meeus, Astronomical Algorithms, examples 25.a and 47.a: apparent longitudes at 1992-10-13 0h and
 // 1992-04-12 0h of dynamical time.
 TEST(Longitude, AgreesWithPublishedExamples) {
-  EXPECT_NEAR(Converter::_LONGITUDE_SUN((2448908.5 - 2451545) / 36525), 199.90895, 0.012);
-  EXPECT_NEAR(Converter::_LONGITUDE_MOON((2448724.5 - 2451545) / 36525), 133.167265, 0.019);
+  EXPECT_NEAR(SunLongitude((2448908.5 - 2451545) / 36525), 199.90895, 0.012);
+  EXPECT_NEAR(MoonLongitude((2448724.5 - 2451545) / 36525), 133.167265, 0.019);
 }
 
 TEST(Longitude, LiesWithinOneTurn) {
   for (int i = -20000; i <= 20000; ++i) {
     const double t = i * 0.000123;
-    const double sun = Converter::_LONGITUDE_SUN(t);
-    const double moon = Converter::_LONGITUDE_MOON(t);
+    const double sun = SunLongitude(t);
+    const double moon = MoonLongitude(t);
     ASSERT_TRUE(sun >= 0 && sun <= 360) << t;
     ASSERT_TRUE(moon >= 0 && moon <= 360) << t;
   }
 }
 
-TEST(Longitude, AnswersEveryDouble) {
-  const double infinity = std::numeric_limits<double>::infinity();
-  for (const double t : {1e6, -1e6, 1e300, -1e300, infinity, -infinity}) {
-    Converter::_LONGITUDE_SUN(t);
-    Converter::_LONGITUDE_MOON(t);
+TEST(Longitude, IsFiniteForEveryFiniteTime) {
+  for (const double t : {1e6, -1e6, 1e300, -1e300}) {
+    EXPECT_TRUE(std::isfinite(SunLongitude(t))) << t;
+    EXPECT_TRUE(std::isfinite(MoonLongitude(t))) << t;
   }
+  EXPECT_FALSE(std::isfinite(SunLongitude(std::numeric_limits<double>::infinity())));
 }
 
 }  // namespace

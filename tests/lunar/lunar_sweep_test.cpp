@@ -30,7 +30,7 @@ const std::set<std::string> kExceptions = {
     // A month of the winter before holds two principal terms, so that three months reach from the
     // winter solstice to the spring equinox. Counted on from the solstice the third is 1; counted
     // from the equinox, which falls into it, it is 2. Up to the equinox, its last day, it reads 1.
-    // The month behind it holds no term and repeats the 2, which no plain month of the year has.
+    // The month after it holds no term and repeats the 2, which no plain month of the year has.
     "-1: 1966-03-22: 1966-1-30 -> 1966-2L-1",
     "0: 1966-03-22: 1966-1-30 -> 1966-2L-1",
     "1: 1966-03-22: 1966-1-30 -> 1966-2L-1",
@@ -47,7 +47,7 @@ const std::set<std::string> kExceptions = {
     // The autumn equinox of 2033 and a new moon share 23 September, which counts to both quarters:
     // five new moons in summer's make 7 a leap month, three months reach from there to the winter
     // solstice. Counted on from the equinox the third is 10; counted from the solstice, its last
-    // day, it is 11. The month behind it holds no term and repeats the 11.
+    // day, it is 11. The month after it holds no term and repeats the 11.
     "8: 2033-12-22: 2033-10-30 -> 2033-11L-1",
     "9: 2033-12-22: 2033-10-30 -> 2033-11L-1",
     "10: 2033-12-22: 2033-10-30 -> 2033-11L-1",

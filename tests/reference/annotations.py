@@ -4,7 +4,7 @@
     annotations.py --library build/release/libalmara.so [--seed N] [--sequences N] [--length N]
                    [--zone HOURS] [--tz NAME]
     annotations.py --library build/release/libalmara.so --from 1900-01-01 --to 2099-12-31
-                   [--stride DAYS] [--language N] [--zone HOURS]
+                   [--stride DAYS] [--language N] [--zone HOURS] [--solar-festivals]
 
 The first form asks at random: lunar dates, solar terms and festivals of ordinary days, of days near
 a term or a feast, of years in a row as the Easter rule sees them, and of dates that do not exist.
@@ -118,11 +118,13 @@ def swept_calls(task):
     for ordinal in range(*task["days"]):
         day = date.fromordinal(ordinal)
         record = (day.year, day.month, day.day, 0)
-        yield (LUNAR, record)
-        yield (TERM, record)
+        if not task["solar_festivals"]:
+            yield (LUNAR, record)
+            yield (TERM, record)
         for language in task["languages"]:
             yield (SOLAR_FESTIVAL, language, record)
-            yield (LUNAR_FESTIVAL, language, record)
+            if not task["solar_festivals"]:
+                yield (LUNAR_FESTIVAL, language, record)
 
 
 def random_calls(task):
@@ -182,6 +184,7 @@ def sweep_tasks(arguments):
             "seed": f"{arguments.seed}/{start}",
             "days": (start, min(start + piece, last + 1), arguments.stride),
             "languages": languages,
+            "solar_festivals": arguments.solar_festivals,
         }
 
 
@@ -198,6 +201,9 @@ def parse_arguments():
     parser.add_argument("--to", metavar="DATE", default="2099-12-31", help="last day of a sweep")
     parser.add_argument("--stride", type=int, default=1, help="days from one swept day to the next")
     parser.add_argument("--language", type=int, help="language of a sweep; default: all")
+    parser.add_argument(
+        "--solar-festivals", action="store_true", help="sweep the solar festivals alone"
+    )
     return parser.parse_args()
 
 

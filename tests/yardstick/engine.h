@@ -7,11 +7,13 @@
 #include <map>
 #include <string>
 
-#include "lunar/calendar_lunar_solar_terms.h"
+#include "festival/calendar_festival.h"
+#include "lunar/calendar_lunar_converter.h"
 
 namespace yardstick {
 
-// The four annotation look-ups, each a text key, a std::map and the plain computation behind it.
+// The four annotation look-ups, each a text key, a std::map and the plain computation. The
+// festivals are those of the engine's rules.
 class Engine {
  public:
   CCalendarLunarDate ConverterLunar(CCalendarSolarDate date);
@@ -20,10 +22,8 @@ class Engine {
   EFestivalLunar CheckFestivalLunar(ELanguage language, CCalendarSolarDate date);
 
  private:
-  EFestivalLunar LunarFestival(ELanguage language, CCalendarSolarDate date);
-  EFestivalLunar NewYearsEve(CCalendarSolarDate date);
-
   CCalendarLunarConverter m_converter;
+  CCalendarFestival m_festival{this};
   std::map<std::string, CCalendarLunarDate> m_lunarDates;
   std::map<std::string, ESolarKyureki24> m_sekki;
   std::map<std::string, EFestivalSolar> m_solarFestivals;
