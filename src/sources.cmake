@@ -4,16 +4,21 @@ set(ALMARA_ENGINE_SOURCES
   date/calendar_platform_api.cpp
   date/day_run.cpp
   date/decimal_text.cpp
-  board/board_content.cpp
   board/board_dump.cpp
-  board/board_layout.cpp
+  board/build_board.cpp
   board/calendar_config.cpp
   board/calendar_item.cpp
   board/calendar_logic_build.cpp
   board/calendar_week_number.cpp
+  board/calendar_week_number_helpers.cpp
+  board/cells.cpp
+  board/date_list.cpp
+  board/day_counts.cpp
   board/display_date_list.cpp
+  board/focus_day.cpp
   board/standard_output.cpp
-  board/week_number_spans.cpp
+  board/visible_part.cpp
+  board/week_spans.cpp
   lunar/calendar_lunar_converter.cpp
   lunar/calendar_lunar_solar_terms.cpp
   lunar/ecliptic_longitude.cpp

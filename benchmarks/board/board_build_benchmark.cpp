@@ -25,7 +25,7 @@ class Board : public CCalendarLogicBuild {
   // Days on the board, hidden ones included.
   int CountDays() const {
     int days = 0;
-    for (const tagCalendarRow& row : m_rows) {
+    for (const tagCalendarRow& row : m_board.content.rows) {
       for (const CCalendarItem& item : row.items) {
         days += item.GetDate().year != 0 ? 1 : 0;
       }

@@ -14,27 +14,18 @@
 
 namespace {
 
+using almara::PageDirection;
 using almara::test::Input;
 
 constexpr int kMaxRows = 60;
 
-// A board that shows its inside.
-class Board : public CCalendarLogicBuild {
- public:
-  using CCalendarLogicBuild::m_focusDay;
-  using CCalendarLogicBuild::m_focusMonth;
-  using CCalendarLogicBuild::m_focusYear;
-  using CCalendarLogicBuild::m_pageDirection;
-};
-
-void ChooseOptions(Input& input, Board& board) {
+void ChooseOptions(Input& input, CCalendarLogicBuild& board) {
   board.SetDispMonth(input.About(1, 4));
   const std::int32_t rows = input.About(-2, kMaxRows);
   board.SetMaxRows(rows > kMaxRows ? kMaxRows : rows);
   board.SetPassedWeeks(input.About(-2, kMaxRows));
   board.SetStartDayOfWeek(input.About(0, 6));
   board.SetShowMonthInterval(input.Flag());
-  board.m_pageDirection = input.About(0, 3);
 }
 
 CCalendarSolarDateEx ChooseEntry(Input& input) {
@@ -42,46 +33,42 @@ CCalendarSolarDateEx ChooseEntry(Input& input) {
   return input.Flag() ? CCalendarSolarDateEx::RealDay(date) : CCalendarSolarDateEx::HiddenDay(date);
 }
 
-// Bands come as whole rows, and only on a board that was paged to are entries cut.
-void CheckList(const std::vector<CCalendarSolarDateEx>& source,
-               const std::vector<CCalendarSolarDateEx>& display, const Board& board) {
+// Month intervals come as whole rows, and only on a board that was paged to are entries cut.
+void CheckList(const almara::BoardRequest& request, const almara::DateList& source,
+               const almara::DateList& display) {
   ALMARA_CHECK(display.size() <= source.size() * (1 + almara::kDaysOfWeek));
-  const bool cuts = board.m_pageDirection == ePageDirectionBackward ||
-                    board.m_pageDirection == ePageDirectionForward;
-  if (!cuts) {
+  if (request.direction == PageDirection::kNone) {
     ALMARA_CHECK(display.size() >= source.size());
     ALMARA_CHECK((display.size() - source.size()) % almara::kDaysOfWeek == 0);
   }
-  if (!board.IsShowMonthInterval() || board.GetDispMonth() == eDispMonthDayStrip) {
+  const CCalendarConfig& options = request.options;
+  if (!options.IsShowMonthInterval() || options.GetDispMonth() == eDispMonthDayStrip) {
     ALMARA_CHECK(display.size() == source.size());
   }
 }
 
-void MakeList(Input& input, Board& board) {
-  std::vector<CCalendarSolarDateEx> source;
+void MakeList(Input& input, const CCalendarConfig& options, PageDirection direction) {
+  almara::DateList source;
   const int entries = input.Within(0, 40);
   for (int i = 0; i < entries; ++i) {
     source.push_back(ChooseEntry(input));
   }
+  CCalendarSolarDate focus{};
   if (!source.empty() && input.Flag()) {
-    const CCalendarSolarDateEx& focus = source[source.size() / 2];
-    board.m_focusYear = focus.year;
-    board.m_focusMonth = focus.month;
-    board.m_focusDay = focus.day;
+    focus = source[source.size() / 2].ShownDate();
   }
   const int before = input.About(-10, 50);
   const int after = input.About(-10, 50);
-  std::vector<CCalendarSolarDateEx> display;
-  board._MakeDateListWithType(source, display, before, after);
-  CheckList(source, display, board);
+  const almara::BoardRequest request{options, focus, {}, direction};
+  CheckList(request, source, almara::MakeDisplayList(request, source, before, after));
 }
 
-void BuildRows(Input& input, Board& board) {
+void BuildRows(Input& input, CCalendarLogicBuild& board, PageDirection direction) {
   const int year = input.About(1899, 2100);
   const int month = input.About(0, 13);
   const int day = input.About(0, 32);
   std::vector<tagCalendarRow> rows(1);
-  const int built = board._BuildContent(year, month, day, rows);
+  const int built = board._BuildContent(year, month, day, rows, direction);
   const bool accepted =
       year >= 1900 && year <= 2099 && month >= 1 && month <= 12 && day >= 1 && day <= 31;
   ALMARA_CHECK(built == (accepted ? 1 : 0));
@@ -102,12 +89,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   constexpr int kMaxRounds = 8;
   Input input(data, size);
   for (int i = 0; i < kMaxRounds && !input.IsEmpty(); ++i) {
-    Board board;
+    CCalendarLogicBuild board;
     ChooseOptions(input, board);
+    const auto direction = static_cast<PageDirection>(input.Within(0, 2));
     if (input.Flag()) {
-      MakeList(input, board);
+      MakeList(input, board, direction);
     } else {
-      BuildRows(input, board);
+      BuildRows(input, board, direction);
     }
   }
   return 0;

@@ -21,14 +21,16 @@ class CCalendarWeekNumber {
   // ISO 8601 week, 1 to 53.
   int _GetWeekNumber(int year, int month, int day) const;
 
-  // The ISO computation without its last correction: one above ISO from the second week on in years
-  // that begin on a Friday, Saturday or Sunday. Callers rely on the difference.
-  int _GetWeekNumber2(int year, int month, int day) const;
-
   // Week counted from the one that holds 1 January, 1 to 54. Days are counted in local seconds, so
-  // in a zone that moves its clocks forward in spring every later date of the year counts one day
-  // short.
+  // that where clocks go forward in spring the days after the change come out one short.
   int _GetWeekOfYear(int year, int month, int day) const;
+
+  // Helpers that the engine does not use: described parts of this class, which tests from outside
+  // are written against (calendar_week_number_helpers.cpp).
+
+  // One above the ISO week from the second week on in years that begin on a Friday, Saturday or
+  // Sunday; in all others the ISO week.
+  int _GetWeekNumber2(int year, int month, int day) const;
 
   // 1 in a Gregorian leap year, else 0.
   int _IsALeapYear(int year) const;
@@ -46,12 +48,12 @@ class CCalendarWeekNumber {
   int _GetNumberOfWeeksInYear(int year) const;
 
   // Month and day of a day of the year, 1 = 1 January. A day of 0 or less is given back as a day of
-  // month 1, a day behind 31 December as a day of month 13. Always 1.
+  // month 1, a day after 31 December as a day of month 13. Always 1.
   int _GetDayAndMonthFromDayInYear(int year, int dayInYear, int* month, int* day) const;
 
   // Month and day on which an ISO week begins; a week past the year's last is carried into later
   // years and *year follows. In a year that begins on a Sunday it is that Sunday's week, one day
-  // before the ISO Monday; callers rely on it. Always 1.
+  // before the ISO Monday. Always 1.
   int _GetDayAndMonthFromWeekInYear(int* year, int week, int* month, int* day) const;
 
  private:

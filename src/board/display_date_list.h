@@ -4,8 +4,12 @@
 
 #include <almara/almara_types.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <type_traits>
+#include <vector>
+
+#include "board/board_request.h"
 
 // One entry of the flat lists from which a board is cut, of four kinds:
 //   real day               the date above, zeroes below
@@ -40,5 +44,21 @@ struct CCalendarSolarDateEx {
   CCalendarSolarDate ShownDate() const { return {year, month, day, dayOfWeek}; }
 };
 static_assert(sizeof(CCalendarSolarDateEx) == 32 && std::is_trivial_v<CCalendarSolarDateEx>);
+
+namespace almara {
+
+using DateList = std::vector<CCalendarSolarDateEx>;
+
+constexpr std::size_t kUsualListSize =
+    80;  // entries; spares the lists of usual boards their growth
+
+// The entries of a board in the order of its cells: source with a month interval, seven entries, in
+// front of each month that begins inside it. From a board reached by paging, the whole rows that
+// the intervals pushed past the wanted days are cut again. before and after are the days counted on
+// the two sides of the focus date.
+DateList MakeDisplayList(const BoardRequest& request, const DateList& source, int before,
+                         int after);
+
+}  // namespace almara
 
 #endif  // ALMARA_BOARD_DISPLAY_DATE_LIST_H_

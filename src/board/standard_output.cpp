@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <ctime>
 
+namespace almara {
+
 namespace {
 
 // Keeps SIGPIPE from this thread for the life of the object.
@@ -49,3 +51,5 @@ std::size_t WriteToStandardOutput(std::string_view text) {
   const BrokenPipeGuard guard;
   return std::fwrite(text.data(), 1, text.size(), stdout);
 }
+
+}  // namespace almara

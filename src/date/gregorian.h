@@ -2,6 +2,8 @@
 #ifndef ALMARA_DATE_GREGORIAN_H_
 #define ALMARA_DATE_GREGORIAN_H_
 
+#include "date/int32.h"
+
 // The facts of the proleptic Gregorian calendar, and the span of years that boards cover.
 namespace almara {
 
@@ -22,10 +24,13 @@ constexpr bool IsLeapYear(int year) {
   return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
 }
 
+// Days of January to December in a common year.
+inline constexpr int kDaysOfCommonMonth[kMonthsOfYear] = {31, 28, 31, 30, 31, 30,
+                                                          31, 31, 30, 31, 30, 31};
+
 // Days of a month 1 to 12 of any year.
 constexpr int DaysOfMonth(int year, int month) {
-  constexpr int kDays[kMonthsOfYear] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  return month == 2 && IsLeapYear(year) ? 29 : kDays[month - 1];
+  return month == 2 && IsLeapYear(year) ? 29 : kDaysOfCommonMonth[month - 1];
 }
 
 constexpr int DaysOfYear(int year) { return IsLeapYear(year) ? 366 : 365; }
@@ -42,6 +47,17 @@ constexpr int DayOfYear(int year, int month, int day) {
 // A day that a short month lacks is accepted and counts on into the next month.
 constexpr bool IsBoardDate(int year, int month, int day) {
   return year >= kFirstYear && year <= kLastYear && IsMonth(month) && day >= 1 && day <= 31;
+}
+
+// Days of a month that boards cover; -1 outside their years or months 1 to 12.
+constexpr int DaysOfBoardMonth(int year, int month) {
+  return IsBoardDate(year, month, 1) ? DaysOfMonth(year, month) : -1;
+}
+
+// Day of the week of 1 January, 0 = Sunday, of a year from 1 on; may be negative for others.
+constexpr int DayOfWeekOfNewYear(int year) {
+  const int before = WrapSubtract(year, 1);
+  return WrapAdd(year, before / 4 - before / 100 + before / 400) % kDaysOfWeek;
 }
 
 }  // namespace almara

@@ -10,6 +10,9 @@
 #include "date/gregorian.h"
 #include "date/int32.h"
 
+using almara::kDaysOfWeek;
+using almara::kMonthsOfYear;
+using almara::PageDirection;
 using almara::WrapAdd;
 using almara::WrapMultiply;
 using almara::WrapSubtract;
@@ -47,11 +50,8 @@ CCalendarSolarDate Today() {
   return almara::Today();
 }
 
-CCalendarSolarDate DateByOffset(const CCalendarSolarDate& date, int offset) {
-  CCalendarSolarDate result{};
-  CalendarPlatformApi::GetNewDateByOffsetDays(date.year, date.month, date.day, offset, result.year,
-                                              result.month, result.day, result.dayOfWeek);
-  return result;
+bool IsSameDay(const CCalendarSolarDate& a, const CCalendarSolarDate& b) {
+  return std::tie(a.year, a.month, a.day) == std::tie(b.year, b.month, b.day);
 }
 
 bool IsBefore(const CCalendarSolarDate& a, const CCalendarSolarDate& b) {
@@ -70,7 +70,7 @@ void WriteTrace(const char* prefix, const CCalendarSolarDate& date) {
   char text[64];
   const int length =
       std::snprintf(text, sizeof text, "%s%d-%d-%d", prefix, date.year, date.month, date.day);
-  WriteToStandardOutput({text, static_cast<std::size_t>(length)});
+  almara::WriteToStandardOutput({text, static_cast<std::size_t>(length)});
 }
 
 }  // namespace
@@ -80,18 +80,10 @@ void CCalendarLogic::InitCalendarLogic(ELanguage language) {
   GotoToday();
 }
 
-// A board marks today, so that building one fixes the zone as asking for today does.
-void CCalendarLogic::_Show(int year, int month, int day) {
-  if (almara::IsBoardDate(year, month, day)) {
-    SetZone(kTimeZoneUnknown);
-  }
-  _BuildCalendar(year, month, day);
-}
-
 void CCalendarLogic::Build() {
   const CCalendarSolarDate today = Today();
-  if (m_focusYear == today.year && m_focusMonth == today.month && m_focusDay == today.day) {
-    _Show(m_focusYear, m_focusMonth, m_focusDay);
+  if (IsSameDay(m_board.content.focus, today)) {
+    _Show(today);
   } else {
     GotoToday();
   }
@@ -99,7 +91,21 @@ void CCalendarLogic::Build() {
 
 void CCalendarLogic::GotoToday() {
   SetZone(kTimeZoneUnknown);
-  _BuildCalendar(0, 0, 0);
+  m_pageDirection = PageDirection::kNone;
+  _BuildToday();
+}
+
+// Builds the board of a date under the page direction; all zeroes stand for today. A board marks
+// today, so that building one fixes the zone as asking for today does.
+void CCalendarLogic::_Show(const CCalendarSolarDate& date) {
+  if (IsSameDay(date, {})) {
+    GotoToday();
+    return;
+  }
+  if (almara::IsBoardDate(date.year, date.month, date.day)) {
+    SetZone(kTimeZoneUnknown);
+  }
+  _BuildCalendar(date.year, date.month, date.day, m_pageDirection);
 }
 
 bool CCalendarLogic::_PagesByMonth() const {
@@ -111,9 +117,10 @@ void CCalendarLogic::GotoPreviousPage() {
     _GotoPreviousMonth();
     return;
   }
-  const CCalendarSolarDate date = DateByOffset(m_firstDateItem.GetDate(), -1);
-  m_pageDirection = ePageDirectionBackward;
-  _Show(date.year, date.month, date.day);
+  const CCalendarSolarDate date =
+      CalendarPlatformApi::GetNewDateByOffsetDays(m_board.content.first.GetDate(), -1);
+  m_pageDirection = PageDirection::kBackward;
+  _Show(date);
 }
 
 void CCalendarLogic::GotoNextPage() {
@@ -121,39 +128,39 @@ void CCalendarLogic::GotoNextPage() {
     _GotoNextMonth();
     return;
   }
-  const CCalendarSolarDate date = DateByOffset(m_lastDateItem.GetDate(), 1);
-  m_pageDirection = ePageDirectionForward;
-  _Show(date.year, date.month, date.day);
+  const CCalendarSolarDate date =
+      CalendarPlatformApi::GetNewDateByOffsetDays(m_board.content.last.GetDate(), 1);
+  m_pageDirection = PageDirection::kForward;
+  _Show(date);
 }
 
 void CCalendarLogic::_GotoPreviousMonth() {
-  if (m_focusMonth == 1) {
-    _Show(m_focusYear - 1, almara::kMonthsOfYear, 1);
-  } else {
-    _Show(m_focusYear, m_focusMonth - 1, 1);
-  }
+  const auto [year, month, day, dayOfWeek] = m_board.content.focus;
+  _Show(month == 1 ? CCalendarSolarDate{year - 1, kMonthsOfYear, 1, 0}
+                   : CCalendarSolarDate{year, month - 1, 1, 0});
 }
 
 void CCalendarLogic::_GotoNextMonth() {
-  if (m_focusMonth >= almara::kMonthsOfYear) {
-    _Show(m_focusYear + 1, 1, 1);
-  } else {
-    _Show(m_focusYear, m_focusMonth + 1, 1);
-  }
+  const auto [year, month, day, dayOfWeek] = m_board.content.focus;
+  _Show(month == kMonthsOfYear ? CCalendarSolarDate{year + 1, 1, 1, 0}
+                               : CCalendarSolarDate{year, month + 1, 1, 0});
 }
 
 void CCalendarLogic::GotoSpecifiedDate(int year, int month, int day) {
+  const CCalendarSolarDate date{year, month, day, 0};
   if (GetDispMonth() != eDispMonthWholeMonth) {
-    const CCalendarSolarDate date{year, month, day, 0};
-    if (IsBefore(date, m_firstDateItem.GetDate())) {
-      m_pageDirection = ePageDirectionBackward;
-    } else if (IsBefore(m_lastDateItem.GetDate(), date)) {
-      m_pageDirection = ePageDirectionForward;
-    } else {
-      m_pageDirection = ePageDirectionNone;
-    }
+    m_pageDirection = _DirectionTo(date);
   }
-  _Show(year, month, day);
+  _Show(date);
+}
+
+// Paging to a date that the board does not show: backward to an earlier one, forward to a later.
+PageDirection CCalendarLogic::_DirectionTo(const CCalendarSolarDate& date) const {
+  if (IsBefore(date, m_board.content.first.GetDate())) {
+    return PageDirection::kBackward;
+  }
+  return IsBefore(m_board.content.last.GetDate(), date) ? PageDirection::kForward
+                                                        : PageDirection::kNone;
 }
 
 void CCalendarLogic::GotoTodayOffsetMonth(int offset) {
@@ -168,44 +175,46 @@ void CCalendarLogic::GotoTodayOffsetMonth(int offset) {
 // A month outside 1900 to 2099 has no length here, so its day is -1 and the build rejects it.
 void CCalendarLogic::_GotoMonthOffset(const CCalendarSolarDate& today, int offset) {
   const int monthsFromStart = WrapSubtract(WrapAdd(today.month, offset), 1);
-  const int year = today.year + FloorDivide(monthsFromStart, almara::kMonthsOfYear);
-  const int month = FloorModulo(monthsFromStart, almara::kMonthsOfYear) + 1;
-  const int day = std::min(today.day, _GetMaxDaysOfSolarMonth(year, month));
-  WriteTrace("", {year, month, day, 0});
-  _Show(year, month, day);
+  const int year = today.year + FloorDivide(monthsFromStart, kMonthsOfYear);
+  const int month = FloorModulo(monthsFromStart, kMonthsOfYear) + 1;
+  const int day = std::min(today.day, almara::DaysOfBoardMonth(year, month));
+  const CCalendarSolarDate date{year, month, day, 0};
+  WriteTrace("", date);
+  _Show(date);
 }
 
 void CCalendarLogic::_GotoPageOffset(const CCalendarSolarDate& today, int offset) {
-  const int days = WrapMultiply(WrapMultiply(almara::kDaysOfWeek, GetMaxRows()), offset);
-  const CCalendarSolarDate date = DateByOffset(today, days);
-  m_pageDirection = ePageDirectionNone;
+  const int days = WrapMultiply(WrapMultiply(kDaysOfWeek, GetMaxRows()), offset);
+  const CCalendarSolarDate date = CalendarPlatformApi::GetNewDateByOffsetDays(today, days);
+  m_pageDirection = PageDirection::kNone;
   WriteTrace("build-logic ", date);
-  _Show(date.year, date.month, date.day);
+  _Show(date);
 }
 
 CCalendarItem CCalendarLogic::GetContentItem(int row, int column) const {
-  if (row < 0 || row >= m_visibleRowCount || column < 0 || column >= m_visibleColumnCount) {
+  if (row < 0 || row >= GetContentRows() || column < 0 || column >= GetContentColumns()) {
     return {};
   }
-  return _VisibleRow(row).items[_VisibleColumn(column)];
+  const almara::VisiblePart& visible = m_board.visible;
+  return m_board.content.rows[visible.RowAt(row)].items[visible.ColumnAt(column)];
 }
 
 int CCalendarLogic::GetCalendarWeekByColumns(int column) const {
-  if (column < 0 || column >= almara::kDaysOfWeek) {
+  if (column < 0 || column >= kDaysOfWeek) {
     return 0;
   }
   if (GetDispMonth() == eDispMonthDayStrip) {
     return GetContentItem(0, column).GetDate().dayOfWeek;
   }
-  const int boardColumn = static_cast<int>(_VisibleColumn(column));
-  return WrapAdd(GetStartDayOfWeek(), boardColumn) % almara::kDaysOfWeek;
+  const auto boardColumn = static_cast<int>(m_board.visible.ColumnAt(column));
+  return WrapAdd(GetStartDayOfWeek(), boardColumn) % kDaysOfWeek;
 }
 
 tagCalendarWeekSpan CCalendarLogic::GetWeekNumberItem(int index) const {
   if (index < 0 || index >= GetWeekNumberCount()) {
     return {};
   }
-  return m_weekNumberSpans[static_cast<std::size_t>(index)];
+  return m_board.spans[static_cast<std::size_t>(index)];
 }
 
 CCalendarSolarDate CCalendarLogic::GetToday() const { return Today(); }

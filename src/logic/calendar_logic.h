@@ -50,8 +50,8 @@ class CCalendarLogic : public CCalendarLogicBuild {
   // weeks as the board has rows, from today. Writes the date to the standard output.
   void GotoTodayOffsetMonth(int offset);
 
-  int GetContentRows() const { return m_visibleRowCount; }
-  int GetContentColumns() const { return m_visibleColumnCount; }
+  int GetContentRows() const { return m_board.visible.rowCount; }
+  int GetContentColumns() const { return m_board.visible.columnCount; }
 
   // The cell at a visible row and column, a default cell outside them.
   CCalendarItem GetContentItem(int row, int column) const;
@@ -59,17 +59,17 @@ class CCalendarLogic : public CCalendarLogicBuild {
   // The day of the week over a visible column; 0 for a column outside 0 to 6.
   int GetCalendarWeekByColumns(int column) const;
 
-  int GetWeekNumberCount() const { return static_cast<int>(m_weekNumberSpans.size()); }
+  int GetWeekNumberCount() const { return static_cast<int>(m_board.spans.size()); }
 
   // A span from the top, all zeroes for an index outside 0 to GetWeekNumberCount() - 1.
   tagCalendarWeekSpan GetWeekNumberItem(int index) const;
 
   // The focus date as it was passed, its day of week 0. All zeroes before the first build.
-  CCalendarSolarDate GetContentDate() const { return {m_focusYear, m_focusMonth, m_focusDay, 0}; }
+  CCalendarSolarDate GetContentDate() const { return m_board.content.focus; }
 
   CCalendarSolarDate GetToday() const;
 
-  bool IsTodayInBoard() const { return m_todayOnBoard; }
+  bool IsTodayInBoard() const { return m_board.content.todayColumn != -1; }
 
   // The annotation of a date (annotation_lookups.cpp). Every int is accepted and nothing is
   // checked; the day of the week does not matter. The first answer for a date, or for a language
@@ -80,6 +80,9 @@ class CCalendarLogic : public CCalendarLogicBuild {
   EFestivalLunar CheckFestivalLunar(ELanguage language, CCalendarSolarDate date);
 
  protected:
+  // State of the navigation alone; stays in force until it is set again.
+  almara::PageDirection m_pageDirection = almara::PageDirection::kNone;
+
   // Every code fits 16 bits, and kept in these more of them stay near the processor.
   using KeptCode = std::int16_t;
 
@@ -94,7 +97,8 @@ class CCalendarLogic : public CCalendarLogicBuild {
   almara::LunarMemo m_lunarMemo;               // work that the look-ups of days share
 
  private:
-  void _Show(int year, int month, int day);
+  void _Show(const CCalendarSolarDate& date);
+  almara::PageDirection _DirectionTo(const CCalendarSolarDate& date) const;
   bool _PagesByMonth() const;
   void _GotoMonthOffset(const CCalendarSolarDate& today, int offset);
   void _GotoPageOffset(const CCalendarSolarDate& today, int offset);

@@ -34,7 +34,7 @@ TEST(AnnotationZone, ALaterLanguageMovesNewAnswersOnly) {
 // The summer solstice of 2024, 20:51 UT, is 20 June in UTC-3 and 21 June in UTC+14.
 TEST(AnnotationZone, ALanguageWithoutAZoneTakesTheMachines) {
   const auto solsticeIsOn = [](const char* zone, int32_t language, int32_t day) {
-    const almara_test::ScopedZone machine(zone);
+    const almara::test::ScopedZone machine(zone);
     return HoldsInFreshProcess([=] {
       Initialise(language);
       return Check24SekkiWithDate({2024, 6, day, 0}) == eSekkiSummerSolstice;

@@ -14,7 +14,7 @@
 
 #include "support/capture_stdout.h"
 
-using almara_test::CaptureStdout;
+using almara::test::CaptureStdout;
 
 namespace {
 

@@ -22,7 +22,7 @@ std::string Strip() {
 }
 
 TEST(KnownLimits, WinterBoardInDublinShiftsByADay) {
-  const almara_test::CaptureStdout output;
+  const almara::test::CaptureStdout output;
   EXPECT_EQ(GetToday().day, 15);
   EXPECT_EQ(GetToday().dayOfWeek, 1);
   SetDispMonth(eDispMonthDayStrip);
@@ -33,7 +33,7 @@ TEST(KnownLimits, WinterBoardInDublinShiftsByADay) {
 }
 
 TEST(KnownLimits, SummerBoardInDublinIsRight) {
-  const almara_test::CaptureStdout output;
+  const almara::test::CaptureStdout output;
   SetDispMonth(eDispMonthDayStrip);
   InitCalendarLogicDt(eLanguageEng);
   GotoSpecifiedDate(2024, 7, 15);

@@ -11,10 +11,10 @@
 #include "support/capture_stdout.h"
 #include "support/civil.h"
 
-using almara_test::CaptureStdout;
-using almara_test::Civil;
-using almara_test::DayOfWeek;
-using almara_test::NextDay;
+using almara::test::CaptureStdout;
+using almara::test::Civil;
+using almara::test::DayOfWeek;
+using almara::test::NextDay;
 
 namespace {
 

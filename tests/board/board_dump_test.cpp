@@ -10,9 +10,9 @@
 #include "support/capture_stdout.h"
 #include "support/clock.h"
 
-using almara_test::Board;
-using almara_test::CaptureStdout;
-using almara_test::SetToday;
+using almara::test::Board;
+using almara::test::CaptureStdout;
+using almara::test::SetToday;
 
 namespace {
 

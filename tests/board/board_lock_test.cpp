@@ -11,8 +11,8 @@
 #include "support/board.h"
 #include "support/capture_stdout.h"
 
-using almara_test::Board;
-using almara_test::CaptureStdout;
+using almara::test::Board;
+using almara::test::CaptureStdout;
 
 namespace {
 
@@ -39,11 +39,11 @@ TEST(BoardLock, BuildWaitsForTheMutex) {
   });
   std::this_thread::sleep_for(std::chrono::milliseconds(50));
   EXPECT_FALSE(built);
-  EXPECT_TRUE(board.m_rows.empty());
+  EXPECT_TRUE(board.Rows().empty());
   lock.unlock();
   builder.join();
   EXPECT_TRUE(built);
-  EXPECT_EQ(board.m_rows.size(), 5U);
+  EXPECT_EQ(board.Rows().size(), 5U);
 }
 
 TEST(BoardLock, BuildGivesTheMutexBack) {
@@ -57,9 +57,10 @@ TEST(BoardLock, BuildGivesTheMutexBack) {
 
 TEST(BoardLock, ContentAloneTakesNoMutex) {
   Board board;
+  std::vector<tagCalendarRow> rows;
   const std::lock_guard<std::mutex> lock(mtx);
-  EXPECT_EQ(board._BuildContent(2024, 3, 13, board.m_rows), 1);
-  EXPECT_EQ(board._BuildContentOfToday(board.m_rows), 1);
+  EXPECT_EQ(board._BuildContent(2024, 3, 13, rows), 1);
+  EXPECT_EQ(board._BuildContentOfToday(rows), 1);
 }
 
 }  // namespace

@@ -60,7 +60,7 @@ class Checker {
  public:
   Checker(const Board& board, const Request& request, CCalendarWeekNumber& weeks)
       : m_board(board), m_request(request), m_weeks(weeks) {
-    for (const tagCalendarRow& row : board.m_rows) {
+    for (const tagCalendarRow& row : board.Rows()) {
       for (const CCalendarItem& item : row.items) {
         m_cells.push_back(&item);
       }
@@ -117,7 +117,7 @@ class Checker {
   }
 
   void CheckRowCount() const {
-    Expect(m_board.m_rows.size() == static_cast<std::size_t>(ExpectedRows()),
+    Expect(m_board.Rows().size() == static_cast<std::size_t>(ExpectedRows()),
            "the board has its number of rows");
   }
 
@@ -201,7 +201,7 @@ class Checker {
 
   void CheckRowWeekNumbers() const {
     int expected = 0;
-    for (const tagCalendarRow& row : m_board.m_rows) {
+    for (const tagCalendarRow& row : m_board.Rows()) {
       for (const CCalendarItem& item : row.items) {
         expected = item.GetWeekNumber() != -1 ? item.GetWeekNumber() : expected;
       }
@@ -259,15 +259,16 @@ class Checker {
 
   void CheckFirstAndLastDay() const {
     const bool anyDay = m_firstDay < m_cells.size();
-    Expect(IsDay(m_board.m_firstDateItem) == anyDay && IsDay(m_board.m_lastDateItem) == anyDay,
+    Expect(IsDay(m_board.Built().content.first) == anyDay &&
+               IsDay(m_board.Built().content.last) == anyDay,
            "a board with days has a first and a last one");
     if (!anyDay) {
       return;
     }
     const auto lastDay = std::find_if(m_cells.rbegin(), m_cells.rend(),
                                       [](const CCalendarItem* cell) { return IsDay(*cell); });
-    Expect(DateOf(m_board.m_firstDateItem) == DateOf(*m_cells[m_firstDay]) &&
-               DateOf(m_board.m_lastDateItem) == DateOf(**lastDay),
+    Expect(DateOf(m_board.Built().content.first) == DateOf(*m_cells[m_firstDay]) &&
+               DateOf(m_board.Built().content.last) == DateOf(**lastDay),
            "they are the first and the last day shown");
   }
 
@@ -276,8 +277,9 @@ class Checker {
     for (const CCalendarItem* cell : m_cells) {
       column = IsDay(*cell) && DateOf(*cell) == m_request.today ? cell->GetColumn() : column;
     }
-    Expect(m_board.m_todayColumn == column && m_board.m_todayOnBoard == (column != -1),
-           "today is noted with its column");
+    Expect(
+        m_board.Built().content.todayColumn == column && m_board.IsTodayInBoard() == (column != -1),
+        "today is noted with its column");
   }
 
   void CheckVisibleColumns() const {
@@ -285,8 +287,8 @@ class Checker {
     int end = 7;
     if (IsStrip()) {
       end = m_request.columns;
-    } else if (m_request.mode == eDispMonthRollingWeeks && m_board.m_todayOnBoard) {
-      begin = std::min(std::max(m_board.m_todayColumn - m_request.columns / 2, 0),
+    } else if (m_request.mode == eDispMonthRollingWeeks && m_board.IsTodayInBoard()) {
+      begin = std::min(std::max(m_board.Built().content.todayColumn - m_request.columns / 2, 0),
                        7 - m_request.columns);
       end = begin + m_request.columns;
     }
@@ -301,7 +303,7 @@ class Checker {
 
   void CheckVisibleRows() const {
     std::vector<int> expected;
-    for (std::size_t row = 0; row < std::min<std::size_t>(m_board.m_rows.size(), 50); ++row) {
+    for (std::size_t row = 0; row < std::min<std::size_t>(m_board.Rows().size(), 50); ++row) {
       bool keeps = false;
       for (const int column : m_board.VisibleColumns()) {
         const ECalendarItem type = m_board.Cell(row, static_cast<std::size_t>(column)).GetType();
@@ -317,11 +319,11 @@ class Checker {
   // On every board without exception.
   void CheckSpans() const {
     int rows = 0;
-    for (const tagCalendarWeekSpan& span : m_board.m_weekNumberSpans) {
+    for (const tagCalendarWeekSpan& span : m_board.Built().spans) {
       Expect(span.rows >= 1 && span.rows <= 3, "a span has one to three rows");
       rows += span.rows;
     }
-    Expect(rows == m_board.m_visibleRowCount, "the rows of the spans are the visible rows");
+    Expect(rows == m_board.GetContentRows(), "the rows of the spans are the visible rows");
   }
 
   const Board& m_board;
@@ -354,8 +356,8 @@ void Build(Board& board, const Request& r) {
   board.SetMaxColumns(r.columns);
   board.SetWeekNumberCalcType(r.weekRule);
   board.SetShowBreakDayOfWeek(r.showBreakDays);
-  board.m_pageDirection = r.direction;
-  board.BuildQuietly(r.focus.year, r.focus.month, r.focus.day);
+  board.BuildQuietly(r.focus.year, r.focus.month, r.focus.day,
+                     static_cast<almara::PageDirection>(r.direction));
 }
 
 // Options that change from day to day, so that all meet all weekdays and places in the month.

@@ -9,7 +9,7 @@
 #include "support/civil.h"
 #include "support/zone.h"
 
-using almara_test::ScopedZone;
+using almara::test::ScopedZone;
 
 namespace {
 
@@ -79,8 +79,8 @@ TEST(WeekNumber, FirstOfJanuaryIsWeek1AndTheMondayBehindItBeginsWeek2) {
   CCalendarWeekNumber weeks;
   for (int year = 1900; year <= 2099; ++year) {
     EXPECT_EQ(weeks.GetWeekNumber(year, 1, 1, 0), 1) << year;
-    almara_test::Civil monday{year, 1, 2};
-    while (almara_test::DayOfWeek(monday) != 1) {
+    almara::test::Civil monday{year, 1, 2};
+    while (almara::test::DayOfWeek(monday) != 1) {
       EXPECT_EQ(weeks.GetWeekNumber(year, 1, monday.day, 0), 1) << year;
       ++monday.day;
     }
@@ -89,15 +89,15 @@ TEST(WeekNumber, FirstOfJanuaryIsWeek1AndTheMondayBehindItBeginsWeek2) {
 }
 
 // A week belongs to the year of its Thursday.
-int WeekOfItsThursday(const almara_test::Civil& d) {
-  const int sinceMonday = (almara_test::DayOfWeek(d) + 6) % 7;
-  const almara_test::Civil thursday = almara_test::AddDays(d, 3 - sinceMonday);
-  return (almara_test::DayNumber(thursday) - almara_test::DayNumber({thursday.year, 1, 1})) / 7 + 1;
+int WeekOfItsThursday(const almara::test::Civil& d) {
+  const int sinceMonday = (almara::test::DayOfWeek(d) + 6) % 7;
+  const almara::test::Civil thursday = almara::test::AddDays(d, 3 - sinceMonday);
+  return (almara::test::DayNumber(thursday) - almara::test::DayNumber({thursday.year, 1, 1})) / 7 + 1;
 }
 
 TEST(WeekNumber, EveryDateUnderTheIsoRule) {
   const CCalendarWeekNumber weeks;
-  for (almara_test::Civil d{1900, 1, 1}; d.year <= 2099; d = almara_test::NextDay(d)) {
+  for (almara::test::Civil d{1900, 1, 1}; d.year <= 2099; d = almara::test::NextDay(d)) {
     ASSERT_EQ(weeks._GetWeekNumber(d.year, d.month, d.day), WeekOfItsThursday(d)) << d;
   }
 }
@@ -163,7 +163,7 @@ TEST(WeekNumber, DaysThatAShortMonthLacksCountOn) {
   CCalendarWeekNumber weeks;
   for (const int type : {0, 1}) {
     for (int year = 1900; year <= 2099; ++year) {
-      const bool leap = almara_test::IsLeapYear(year);
+      const bool leap = almara::test::IsLeapYear(year);
       EXPECT_EQ(weeks.GetWeekNumber(year, 2, 30, type),
                 weeks.GetWeekNumber(year, 3, leap ? 1 : 2, type))
           << year << ' ' << type;
@@ -205,7 +205,7 @@ TEST(WeekNumber2, IsOneAboveIsoBehindTheFirstPartialWeek) {
 TEST(WeekNumber2, IsIsoInAllOtherYears) {
   const CCalendarWeekNumber weeks;
   for (const int year : {2024, 2019, 2025, 2026}) {  // Monday, Tuesday, Wednesday, Thursday
-    for (almara_test::Civil d{year, 1, 1}; d.year == year; d = almara_test::NextDay(d)) {
+    for (almara::test::Civil d{year, 1, 1}; d.year == year; d = almara::test::NextDay(d)) {
       EXPECT_EQ(weeks._GetWeekNumber2(d.year, d.month, d.day),
                 weeks._GetWeekNumber(d.year, d.month, d.day))
           << d;
@@ -250,8 +250,8 @@ TEST(WeekHelpers, DayOfTheWeek) {
 
 TEST(WeekHelpers, DayOfTheWeekOfEveryDate) {
   const CCalendarWeekNumber weeks;
-  for (almara_test::Civil d{1900, 1, 1}; d.year <= 2099; d = almara_test::NextDay(d)) {
-    ASSERT_EQ(weeks._GetDayOfTheWeek(d.year, d.month, d.day), almara_test::DayOfWeek(d)) << d;
+  for (almara::test::Civil d{1900, 1, 1}; d.year <= 2099; d = almara::test::NextDay(d)) {
+    ASSERT_EQ(weeks._GetDayOfTheWeek(d.year, d.month, d.day), almara::test::DayOfWeek(d)) << d;
   }
 }
 
@@ -307,11 +307,11 @@ TEST(WeekHelpers, DayAndMonthFromEveryDayInYear) {
   const CCalendarWeekNumber weeks;
   for (const int year : {2023, 2024}) {
     int dayInYear = 0;
-    for (almara_test::Civil d{year, 1, 1}; d.year == year; d = almara_test::NextDay(d)) {
+    for (almara::test::Civil d{year, 1, 1}; d.year == year; d = almara::test::NextDay(d)) {
       int month = 0;
       int day = 0;
       weeks._GetDayAndMonthFromDayInYear(year, ++dayInYear, &month, &day);
-      EXPECT_EQ(almara_test::Civil({year, month, day}), d);
+      EXPECT_EQ(almara::test::Civil({year, month, day}), d);
     }
   }
 }
@@ -358,8 +358,8 @@ TEST(WeekHelpers, WeekOfAYearThatBeginsOnASundayBeginsOnThatWeekday) {
     int day = 0;
     weeks._GetDayAndMonthFromWeekInYear(&year, week, &month, &day);
     EXPECT_EQ(year, 2023);
-    EXPECT_EQ(almara_test::DayNumber({2023, month, day}),
-              almara_test::DayNumber({2023, 1, 1}) + 7 * (week - 1));
+    EXPECT_EQ(almara::test::DayNumber({2023, month, day}),
+              almara::test::DayNumber({2023, 1, 1}) + 7 * (week - 1));
   }
 }
 

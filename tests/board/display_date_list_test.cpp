@@ -8,17 +8,16 @@
 #include <type_traits>
 #include <vector>
 
-#include "support/board.h"
+#include "board/calendar_logic_build.h"
 #include "support/civil.h"
 
-using almara_test::AddDays;
-using almara_test::Board;
-using almara_test::Civil;
-using almara_test::DayOfWeek;
+using almara::test::AddDays;
+using almara::DateList;
+using almara::PageDirection;
+using almara::test::Civil;
+using almara::test::DayOfWeek;
 
 namespace {
-
-using DateList = std::vector<CCalendarSolarDateEx>;
 
 CCalendarSolarDateEx Real(const Civil& d) {
   return {d.year, d.month, d.day, DayOfWeek(d), 0, 0, 0, 0};
@@ -51,25 +50,24 @@ std::string Text(const DateList& list) {
   return text;
 }
 
-DateList Display(const Board& board, DateList source, int before, int after) {
-  DateList display;
-  board._MakeDateListWithType(source, display, before, after);
-  return display;
-}
-
 class DisplayDateList : public testing::Test {
  protected:
-  void Focus(const Civil& focus, EPageDirection direction) {
-    m_board.m_focusYear = focus.year;
-    m_board.m_focusMonth = focus.month;
-    m_board.m_focusDay = focus.day;
-    m_board.m_pageDirection = direction;
+  void Focus(const Civil& focus, PageDirection direction) {
+    m_focus = {focus.year, focus.month, focus.day, 0};
+    m_direction = direction;
+  }
+  DateList Display(const DateList& source, int before, int after) const {
+    return almara::MakeDisplayList({m_options, m_focus, {}, m_direction}, source, before, after);
   }
   std::string Shown(const DateList& source, int before = 0, int after = 0) const {
-    return Text(Display(m_board, source, before, after));
+    return Text(Display(source, before, after));
   }
 
-  Board m_board;
+  CCalendarConfig m_options;
+
+ private:
+  CCalendarSolarDate m_focus{};
+  PageDirection m_direction = PageDirection::kNone;
 };
 
 TEST(DisplayDate, BlankIsWhatShowsNoPartOfADate) {
@@ -140,7 +138,7 @@ TEST_F(DisplayDateList, RunWithoutAFirstDayIsShownAsItIs) {
 }
 
 TEST_F(DisplayDateList, BandOfSevenStandsBeforeAFirstDayInsideTheRun) {
-  const DateList display = Display(m_board, Days({2024, 2, 28}, 4), 0, 0);
+  const DateList display = Display(Days({2024, 2, 28}, 4), 0, 0);
   EXPECT_EQ(Text(display), "28 29 [3] . . . . . . 1 2");
   const CCalendarSolarDateEx& title = display[2];
   EXPECT_EQ(title.year, 0);
@@ -155,7 +153,7 @@ TEST_F(DisplayDateList, BandOfSevenStandsBeforeAFirstDayInsideTheRun) {
 }
 
 TEST_F(DisplayDateList, EveryMonthThatBeginsInsideGetsItsBand) {
-  const DateList display = Display(m_board, Days({2023, 12, 31}, 33), 0, 0);
+  const DateList display = Display(Days({2023, 12, 31}, 33), 0, 0);
   ASSERT_EQ(display.size(), 33U + 14U);
   EXPECT_EQ(display[1].month, 1);  // January behind December
   EXPECT_EQ(display[8].day, 1);
@@ -169,27 +167,27 @@ TEST_F(DisplayDateList, FirstEntryGetsNoBand) {
 }
 
 TEST_F(DisplayDateList, WithoutIntervalsNothingIsInsertedInAnyMode) {
-  m_board.SetShowMonthInterval(false);
+  m_options.SetShowMonthInterval(false);
   for (const int mode : {1, 2, 3, 4, 0, 5}) {
-    m_board.SetDispMonth(mode);
+    m_options.SetDispMonth(mode);
     EXPECT_EQ(Shown(Days({2024, 2, 28}, 4)), "28 29 1 2") << mode;
   }
 }
 
 TEST_F(DisplayDateList, StripHasNoBandAcrossAMonth) {
-  m_board.SetDispMonth(eDispMonthDayStrip);
+  m_options.SetDispMonth(eDispMonthDayStrip);
   EXPECT_EQ(Shown(Days({2024, 2, 26}, 7)), "26 27 28 29 1 2 3");
 }
 
 TEST_F(DisplayDateList, EveryOtherModeHasBands) {
   for (const int mode : {1, 2, 3, 0, 5, -4}) {
-    m_board.SetDispMonth(mode);
+    m_options.SetDispMonth(mode);
     EXPECT_EQ(Shown(Days({2024, 2, 29}, 2)), "29 [3] . . . . . . 1") << mode;
   }
 }
 
 TEST_F(DisplayDateList, FirstDayBehindHiddenDaysOnlyGetsNoBand) {
-  m_board.SetDispMonth(eDispMonthWholeMonth);
+  m_options.SetDispMonth(eDispMonthWholeMonth);
   DateList source;
   for (int day = 26; day <= 29; ++day) {
     source.push_back(Hidden({2024, 2, day}));
@@ -221,8 +219,8 @@ TEST_F(DisplayDateList, HiddenFirstDayNeverBringsABand) {
 
 TEST_F(DisplayDateList, PlainBuildKeepsTheColumnOfTheNewMonth) {
   const DateList source = Days({2024, 2, 26}, 35);  // Monday
-  Focus({2024, 3, 6}, ePageDirectionNone);
-  const DateList display = Display(m_board, source, 9, 25);
+  Focus({2024, 3, 6}, PageDirection::kNone);
+  const DateList display = Display(source, 9, 25);
   EXPECT_EQ(display.size(), source.size() + 7);
   EXPECT_EQ(source[4].day, 1);
   EXPECT_EQ(display[11].day, 1);
@@ -232,47 +230,47 @@ TEST_F(DisplayDateList, PlainBuildKeepsTheColumnOfTheNewMonth) {
 
 TEST_F(DisplayDateList, PlainBuildCutsNothing) {
   for (const int mode : {1, 2, 3}) {
-    m_board.SetDispMonth(mode);
-    Focus({2024, 3, 3}, ePageDirectionNone);
-    EXPECT_EQ(Display(m_board, Days({2024, 2, 26}, 7), 6, 0).size(), 14U) << mode;
+    m_options.SetDispMonth(mode);
+    Focus({2024, 3, 3}, PageDirection::kNone);
+    EXPECT_EQ(Display(Days({2024, 2, 26}, 7), 6, 0).size(), 14U) << mode;
   }
 }
 
 TEST_F(DisplayDateList, WholeMonthPagedBackwardLosesItsFirstEntries) {
-  m_board.SetDispMonth(eDispMonthWholeMonth);
-  Focus({2024, 2, 28}, ePageDirectionBackward);
+  m_options.SetDispMonth(eDispMonthWholeMonth);
+  Focus({2024, 2, 28}, PageDirection::kBackward);
   EXPECT_EQ(Shown(Days({2024, 2, 28}, 10), 0, 9), ". . 1 2 3 4 5 6 7 8");
 }
 
 TEST_F(DisplayDateList, WholeMonthPagedForwardLosesItsLastEntries) {
-  m_board.SetDispMonth(eDispMonthWholeMonth);
-  Focus({2024, 2, 28}, ePageDirectionForward);
+  m_options.SetDispMonth(eDispMonthWholeMonth);
+  Focus({2024, 2, 28}, PageDirection::kForward);
   EXPECT_EQ(Shown(Days({2024, 2, 28}, 10), 0, 9), "28 29 [3] . . . . . . 1");
 }
 
 TEST_F(DisplayDateList, WholeMonthLosesAsManyEntriesAsAllBandsAdded) {
-  m_board.SetDispMonth(eDispMonthWholeMonth);
-  Focus({2024, 1, 31}, ePageDirectionForward);
+  m_options.SetDispMonth(eDispMonthWholeMonth);
+  Focus({2024, 1, 31}, PageDirection::kForward);
   const DateList source = Days({2024, 1, 31}, 32);  // to 2 March: two bands
-  EXPECT_EQ(Display(m_board, source, 0, 31).size(), source.size());
-  EXPECT_EQ(Display(m_board, source, 0, 31).back().day, 24);
+  EXPECT_EQ(Display(source, 0, 31).size(), source.size());
+  EXPECT_EQ(Display(source, 0, 31).back().day, 24);
 }
 
 TEST_F(DisplayDateList, PagedBackwardTheRowsBeforeTheFocusThatWereNotAskedForGo) {
-  Focus({2024, 3, 3}, ePageDirectionBackward);
+  Focus({2024, 3, 3}, PageDirection::kBackward);
   EXPECT_EQ(Shown(Days({2024, 2, 26}, 7), 6, 0), ". . . . 1 2 3");
 }
 
 TEST_F(DisplayDateList, PagedForwardTheRowsBehindTheFocusThatWereNotAskedForGo) {
-  Focus({2024, 2, 26}, ePageDirectionForward);
+  Focus({2024, 2, 26}, PageDirection::kForward);
   EXPECT_EQ(Shown(Days({2024, 2, 26}, 7), 0, 6), "26 27 28 29 [3] . .");
 }
 
 TEST_F(DisplayDateList, BothEndsAreCutWhicheverTheDirection) {
-  for (const EPageDirection direction : {ePageDirectionBackward, ePageDirectionForward}) {
+  for (const PageDirection direction : {PageDirection::kBackward, PageDirection::kForward}) {
     Focus({2024, 3, 6}, direction);
     // From 26 February to 7 April: a band before the focus and one behind it.
-    const DateList display = Display(m_board, Days({2024, 2, 26}, 42), 9, 32);
+    const DateList display = Display(Days({2024, 2, 26}, 42), 9, 32);
     EXPECT_EQ(display.size(), 42U);
     EXPECT_EQ(Text(display),
               ". . . . 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 23 24 25 26 27 28 "
@@ -281,13 +279,13 @@ TEST_F(DisplayDateList, BothEndsAreCutWhicheverTheDirection) {
 }
 
 TEST_F(DisplayDateList, RollingTailIsCutLikeRollingWeeks) {
-  m_board.SetDispMonth(eDispMonthRollingTail);
-  Focus({2024, 3, 3}, ePageDirectionBackward);
+  m_options.SetDispMonth(eDispMonthRollingTail);
+  Focus({2024, 3, 3}, PageDirection::kBackward);
   EXPECT_EQ(Shown(Days({2024, 2, 26}, 7), 6, 0), ". . . . 1 2 3");
 }
 
 TEST_F(DisplayDateList, SurplusThatIsNoWholeRowStays) {
-  Focus({2024, 3, 3}, ePageDirectionForward);
+  Focus({2024, 3, 3}, PageDirection::kForward);
   // Three days and a band before the focus.
   EXPECT_EQ(Shown(Days({2024, 2, 29}, 4), 2, 0), "29 [3] . . . . . . 1 2 3");
   EXPECT_EQ(Shown(Days({2024, 2, 29}, 4), 3, 0), ". 1 2 3");
@@ -295,25 +293,25 @@ TEST_F(DisplayDateList, SurplusThatIsNoWholeRowStays) {
 }
 
 TEST_F(DisplayDateList, WithoutABandNothingIsCut) {
-  Focus({2024, 3, 20}, ePageDirectionBackward);
-  EXPECT_EQ(Display(m_board, Days({2024, 3, 6}, 29 - 7), 0, 0).size(), 22U);
+  Focus({2024, 3, 20}, PageDirection::kBackward);
+  EXPECT_EQ(Display(Days({2024, 3, 6}, 29 - 7), 0, 0).size(), 22U);
 }
 
 TEST_F(DisplayDateList, FocusThatIsNotListedCountsAsTheFirstEntryWithNothingBehind) {
-  Focus({2024, 2, 31}, ePageDirectionBackward);
+  Focus({2024, 2, 31}, PageDirection::kBackward);
   const DateList source = Days({2024, 2, 26}, 7);
-  EXPECT_EQ(Display(m_board, source, 6, 0).size(), 14U);
-  EXPECT_EQ(Display(m_board, source, 0, 0).size(), 14U);
-  EXPECT_EQ(Display(m_board, source, -7, 0).size(), 7U);  // 0 - -7 is a row
-  EXPECT_EQ(Display(m_board, source, 0, -7).size(), 7U);  // so is this at the end
-  EXPECT_EQ(Display(m_board, source, -6, -8).size(), 14U);
-  Focus({2024, 2, 25}, ePageDirectionBackward);  // a day before the list
-  EXPECT_EQ(Display(m_board, source, 0, 6).size(), 14U);
+  EXPECT_EQ(Display(source, 6, 0).size(), 14U);
+  EXPECT_EQ(Display(source, 0, 0).size(), 14U);
+  EXPECT_EQ(Display(source, -7, 0).size(), 7U);  // 0 - -7 is a row
+  EXPECT_EQ(Display(source, 0, -7).size(), 7U);  // so is this at the end
+  EXPECT_EQ(Display(source, -6, -8).size(), 14U);
+  Focus({2024, 2, 25}, PageDirection::kBackward);  // a day before the list
+  EXPECT_EQ(Display(source, 0, 6).size(), 14U);
 }
 
 // Rows of -2 or less, paged backward.
 TEST_F(DisplayDateList, SurplusLargerThanTheListEmptiesIt) {
-  Focus({2024, 2, 26}, ePageDirectionBackward);
+  Focus({2024, 2, 26}, PageDirection::kBackward);
   const DateList source = Days({2024, 2, 26}, 7);
   EXPECT_EQ(Shown(source, -21, 6), "");
   EXPECT_EQ(Shown(source, -14, 6), "");

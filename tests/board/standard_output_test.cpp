@@ -13,7 +13,8 @@
 #include "support/capture_stdout.h"
 #include "support/leave_process.h"
 
-using almara_test::CaptureStdout;
+using almara::WriteToStandardOutput;
+using almara::test::CaptureStdout;
 
 namespace {
 
@@ -46,13 +47,13 @@ void WriteAndExit(Redirect redirect) {
   sigpending(&pending);
   sigset_t mask;
   pthread_sigmask(SIG_SETMASK, nullptr, &mask);
-  almara_test::LeaveProcess(sigismember(&pending, SIGPIPE) + 2 * sigismember(&mask, SIGPIPE));
+  almara::test::LeaveProcess(sigismember(&pending, SIGPIPE) + 2 * sigismember(&mask, SIGPIPE));
 }
 
 void BreakPipe() {
   int ends[2];
   if (pipe(ends) != 0 || dup2(ends[1], STDOUT_FILENO) < 0) {
-    almara_test::LeaveProcess(99);
+    almara::test::LeaveProcess(99);
   }
   close(ends[0]);
 }

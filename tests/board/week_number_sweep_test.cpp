@@ -7,12 +7,12 @@
 #include "board/calendar_week_number.h"
 #include "support/civil.h"
 
-using almara_test::AddDays;
-using almara_test::Civil;
-using almara_test::DayNumber;
-using almara_test::DayOfWeek;
-using almara_test::kFirstDay;
-using almara_test::NextDay;
+using almara::test::AddDays;
+using almara::test::Civil;
+using almara::test::DayNumber;
+using almara::test::DayOfWeek;
+using almara::test::kFirstDay;
+using almara::test::NextDay;
 
 namespace {
 
@@ -85,7 +85,7 @@ TEST(WeekNumberSweep, HelpersAgreeWithCounting) {
     weeks._GetDayAndMonthFromDayInYear(day.year, dayInYear, &month, &dayOfMonth);
     ASSERT_EQ((Civil{day.year, month, dayOfMonth}), day);
     ASSERT_EQ(weeks._GetDaysInMonth(day.year, day.month),
-              almara_test::DaysOfMonth(day.year, day.month));
+              almara::test::DaysOfMonth(day.year, day.month));
   }
 }
 

@@ -10,9 +10,9 @@
 #include "support/clock.h"
 #include "support/zone.h"
 
-using almara_test::ScopedZone;
-using almara_test::SetNow;
-using almara_test::SetToday;
+using almara::test::ScopedZone;
+using almara::test::SetNow;
+using almara::test::SetToday;
 
 namespace {
 

@@ -10,12 +10,12 @@
 #include "support/civil.h"
 #include "support/zone.h"
 
-using almara_test::AddDays;
-using almara_test::Civil;
-using almara_test::DayOfWeek;
-using almara_test::kZones;
-using almara_test::NextDay;
-using almara_test::ScopedZone;
+using almara::test::AddDays;
+using almara::test::Civil;
+using almara::test::DayOfWeek;
+using almara::test::kZones;
+using almara::test::NextDay;
+using almara::test::ScopedZone;
 
 namespace {
 

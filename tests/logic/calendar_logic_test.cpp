@@ -14,9 +14,10 @@
 #include "support/clock.h"
 #include "support/zone.h"
 
-using almara_test::Board;
-using almara_test::CaptureStdout;
-using almara_test::SetToday;
+using almara::PageDirection;
+using almara::test::Board;
+using almara::test::CaptureStdout;
+using almara::test::SetToday;
 
 namespace {
 
@@ -26,6 +27,9 @@ constexpr int kRolling = eDispMonthRollingWeeks;
 constexpr int kTail = eDispMonthRollingTail;
 constexpr int kMonth = eDispMonthWholeMonth;
 constexpr int kStrip = eDispMonthDayStrip;
+constexpr PageDirection kPlain = PageDirection::kNone;
+constexpr PageDirection kBackward = PageDirection::kBackward;
+constexpr PageDirection kForward = PageDirection::kForward;
 
 std::string Date(const CCalendarSolarDate& d) {
   return std::to_string(d.year) + "-" + std::to_string(d.month) + "-" + std::to_string(d.day);
@@ -36,9 +40,9 @@ class Logic : public testing::Test {
   Logic() { SetToday(2024, 3, 13); }
 
   std::string Focus() const { return Date(m_engine.GetContentDate()); }
-  std::string First() const { return Date(m_engine.m_firstDateItem.GetDate()); }
-  std::string Last() const { return Date(m_engine.m_lastDateItem.GetDate()); }
-  int Direction() const { return m_engine.m_pageDirection; }
+  std::string First() const { return Date(m_engine.Built().content.first.GetDate()); }
+  std::string Last() const { return Date(m_engine.Built().content.last.GetDate()); }
+  PageDirection Direction() const { return m_engine.m_pageDirection; }
 
   // What was written in front of the text of the board.
   std::string Trace() {
@@ -56,8 +60,8 @@ TEST_F(Logic, FreshEngineIsEmpty) {
   EXPECT_EQ(m_engine.GetWeekNumberCount(), 0);
   EXPECT_EQ(Focus(), "0-0-0");
   EXPECT_FALSE(m_engine.IsTodayInBoard());
-  EXPECT_EQ(Direction(), 0);
-  EXPECT_EQ(m_engine.m_todayColumn, -1);
+  EXPECT_EQ(Direction(), kPlain);
+  EXPECT_EQ(m_engine.Built().content.todayColumn, -1);
   EXPECT_EQ(m_output.Take(), "");
 }
 
@@ -90,7 +94,7 @@ TEST_F(Logic, LanguageWithoutAZoneTakesTheMachinesOnceOnly) {
 
 // Whatever asks for today, or builds a board, which marks today, makes the zone known.
 TEST_F(Logic, TheZoneBecomesKnownWithTheFirstToday) {
-  const almara_test::ScopedZone zone("NOWHERE-5:45");
+  const almara::test::ScopedZone zone("NOWHERE-5:45");
   const auto zoneAfter = [this](auto&& call) {
     g_mac_timezone = kTimeZoneUnknown;
     call(m_engine);
@@ -111,7 +115,7 @@ TEST_F(Logic, TheZoneBecomesKnownWithTheFirstToday) {
 }
 
 TEST_F(Logic, TodayKeepsTheZoneThatIsKnown) {
-  const almara_test::ScopedZone zone("NOWHERE-1");
+  const almara::test::ScopedZone zone("NOWHERE-1");
   g_mac_timezone = 9;
   m_engine.GetToday();
   m_engine.GotoToday();
@@ -119,10 +123,10 @@ TEST_F(Logic, TodayKeepsTheZoneThatIsKnown) {
 }
 
 TEST_F(Logic, InitBuildsTodaysBoardWithoutADirection) {
-  m_engine.m_pageDirection = ePageDirectionBackward;
+  m_engine.m_pageDirection = kBackward;
   m_engine.InitCalendarLogic(eLanguageEng);
   EXPECT_EQ(Focus(), "2024-3-13");
-  EXPECT_EQ(Direction(), 0);
+  EXPECT_EQ(Direction(), kPlain);
   EXPECT_EQ(m_engine.GetContentRows(), 5);
   EXPECT_EQ(m_engine.GetContentColumns(), 7);
   EXPECT_TRUE(m_engine.IsTodayInBoard());
@@ -135,7 +139,7 @@ TEST_F(Logic, BuildReturnsToTodayAfterPagingAway) {
   EXPECT_FALSE(m_engine.IsTodayInBoard());
   m_engine.Build();
   EXPECT_EQ(Focus(), "2024-3-13");
-  EXPECT_EQ(Direction(), 0);
+  EXPECT_EQ(Direction(), kPlain);
   EXPECT_TRUE(m_engine.IsTodayInBoard());
 }
 
@@ -147,23 +151,23 @@ TEST_F(Logic, BuildBeforeAnyOtherBuildShowsToday) {
 TEST_F(Logic, BuildKeepsTheDirectionWhenTheFocusIsToday) {
   m_engine.GotoSpecifiedDate(2024, 6, 1);
   m_engine.GotoSpecifiedDate(2024, 3, 13);  // before the board: its last row
-  ASSERT_EQ(Direction(), 1);
+  ASSERT_EQ(Direction(), kBackward);
   m_engine.Build();
-  EXPECT_EQ(Direction(), 1);
+  EXPECT_EQ(Direction(), kBackward);
   EXPECT_EQ(Last(), "2024-3-17");
   m_engine.GotoToday();
-  EXPECT_EQ(Direction(), 0);
+  EXPECT_EQ(Direction(), kPlain);
   m_engine.Build();
-  EXPECT_EQ(Direction(), 0);
+  EXPECT_EQ(Direction(), kPlain);
 }
 
 TEST_F(Logic, GotoTodayDropsTheDirection) {
   m_engine.GotoToday();
   for (int page = 0; page < 2; ++page) {
     m_engine.GotoPreviousPage();
-    ASSERT_EQ(Direction(), 1);
+    ASSERT_EQ(Direction(), kBackward);
     m_engine.GotoToday();
-    EXPECT_EQ(Direction(), 0);
+    EXPECT_EQ(Direction(), kPlain);
     EXPECT_EQ(Focus(), "2024-3-13");
   }
 }
@@ -173,12 +177,12 @@ TEST_F(Logic, RollingWeeksPageByTheDaysShown) {
   ASSERT_EQ(First(), "2024-3-4");
   m_engine.GotoPreviousPage();
   EXPECT_EQ(Focus(), "2024-3-3");
-  EXPECT_EQ(Direction(), 1);
+  EXPECT_EQ(Direction(), kBackward);
   EXPECT_EQ(Last(), "2024-3-3");
   EXPECT_EQ(First(), "2024-2-5");
   m_engine.GotoNextPage();
   EXPECT_EQ(Focus(), "2024-3-4");
-  EXPECT_EQ(Direction(), 2);
+  EXPECT_EQ(Direction(), kForward);
   EXPECT_EQ(First(), "2024-3-4");
   EXPECT_EQ(Last(), "2024-3-31");  // the fifth row is the band of April
   m_engine.GotoNextPage();
@@ -211,11 +215,11 @@ TEST_F(Logic, StripPagesByItsDays) {
   m_engine.GotoPreviousPage();
   EXPECT_EQ(First(), "2024-3-3");
   EXPECT_EQ(Last(), "2024-3-9");
-  EXPECT_EQ(Direction(), 1);
+  EXPECT_EQ(Direction(), kBackward);
   m_engine.GotoNextPage();
   EXPECT_EQ(First(), "2024-3-10");
   EXPECT_EQ(Last(), "2024-3-16");
-  EXPECT_EQ(Direction(), 2);
+  EXPECT_EQ(Direction(), kForward);
 }
 
 TEST_F(Logic, MonthsPageToTheFirstOfTheMonth) {
@@ -223,7 +227,7 @@ TEST_F(Logic, MonthsPageToTheFirstOfTheMonth) {
     m_engine.SetDispMonth(mode);
     m_engine.GotoToday();
     m_engine.GotoSpecifiedDate(2024, 3, 15);
-    m_engine.m_pageDirection = 0;
+    m_engine.m_pageDirection = kPlain;
     m_engine.GotoPreviousPage();
     EXPECT_EQ(Focus(), "2024-2-1");
     m_engine.GotoPreviousPage();
@@ -257,12 +261,12 @@ TEST_F(Logic, MonthStepsOnTheirOwnMoveTheSameWay) {
   EXPECT_EQ(Focus(), "2023-12-1");
   m_engine._GotoNextMonth();
   EXPECT_EQ(Focus(), "2024-1-1");
-  EXPECT_EQ(Direction(), 0);
+  EXPECT_EQ(Direction(), kPlain);
 }
 
 TEST_F(Logic, PagingByMonthsKeepsTheDirection) {
   for (const int mode : {kTail, kMonth}) {
-    for (const int direction : {0, 1, 2}) {
+    for (const PageDirection direction : {kPlain, kBackward, kForward}) {
       m_engine.SetDispMonth(mode);
       m_engine.GotoToday();
       m_engine.m_pageDirection = direction;
@@ -279,9 +283,9 @@ TEST_F(Logic, ModesWithoutABoardPageByDays) {
     m_engine.SetDispMonth(mode);
     m_engine.GotoToday();
     m_engine.GotoPreviousPage();
-    EXPECT_EQ(Direction(), 1) << mode;
+    EXPECT_EQ(Direction(), kBackward) << mode;
     m_engine.GotoNextPage();
-    EXPECT_EQ(Direction(), 2) << mode;
+    EXPECT_EQ(Direction(), kForward) << mode;
   }
 }
 
@@ -314,12 +318,12 @@ TEST_F(Logic, PagingAtTheEndsOfTheYearsLeavesTheBoard) {
   m_engine.GotoPreviousPage();  // 1899
   EXPECT_EQ(Focus(), "1900-1-1");
   EXPECT_EQ(First(), first);
-  EXPECT_EQ(Direction(), 1);
+  EXPECT_EQ(Direction(), kBackward);
   m_engine.GotoToday();
   m_engine.GotoSpecifiedDate(2099, 12, 31);
   m_engine.GotoNextPage();
   EXPECT_EQ(Focus(), "2099-12-31");
-  EXPECT_EQ(Direction(), 2);
+  EXPECT_EQ(Direction(), kForward);
 }
 
 TEST_F(Logic, PagingBeforeTheFirstBuildLeavesTheBoardEmpty) {
@@ -334,23 +338,41 @@ TEST_F(Logic, PagingBeforeTheFirstBuildLeavesTheBoardEmpty) {
   }
 }
 
-TEST_F(Logic, DateInsideBeforeOrBehindTheBoardSetsTheDirection) {
+TEST_F(Logic, DateBeforeOrAfterTheBoardSetsTheDirectionAndOneWithinClearsIt) {
   m_engine.SetShowMonthInterval(false);
   struct {
-    int year, month, day, direction;
+    int year, month, day;
+    PageDirection direction;
   } const cases[] = {
-      {2024, 3, 20, 0},  {2024, 2, 10, 1}, {2024, 4, 8, 2},  {2024, 3, 4, 0},  // the first day
-      {2024, 3, 3, 1},   {2024, 4, 7, 0},                                      // the last day
-      {2023, 12, 31, 1}, {2025, 1, 1, 2},  {2023, 5, 20, 1},  // the year before the month
-      {2025, 3, 20, 2},
+      {2024, 3, 20, kPlain},     {2024, 2, 10, kBackward},
+      {2024, 4, 8, kForward},    {2024, 3, 4, kPlain},  // the first day
+      {2024, 3, 3, kBackward},   {2024, 4, 7, kPlain},  // the last day
+      {2023, 12, 31, kBackward}, {2025, 1, 1, kForward},
+      {2023, 5, 20, kBackward},  {2025, 3, 20, kForward},
   };
   for (const auto& c : cases) {
-    m_engine.GotoToday();
-    ASSERT_EQ(First(), "2024-3-4");
-    ASSERT_EQ(Last(), "2024-4-7");
-    m_engine.GotoSpecifiedDate(c.year, c.month, c.day);
-    EXPECT_EQ(Direction(), c.direction) << c.year << '-' << c.month << '-' << c.day;
+    for (const PageDirection before : {kPlain, kBackward, kForward}) {
+      m_engine.GotoToday();
+      ASSERT_EQ(First(), "2024-3-4");
+      ASSERT_EQ(Last(), "2024-4-7");
+      m_engine.m_pageDirection = before;
+      m_engine.GotoSpecifiedDate(c.year, c.month, c.day);
+      EXPECT_EQ(Direction(), c.direction) << c.year << '-' << c.month << '-' << c.day;
+    }
   }
+}
+
+// Paged to, the board's first week is that of its focus; a plain board shows a week before it.
+TEST_F(Logic, DateWithinAPagedBoardIsShownOnAPlainOne) {
+  m_engine.SetShowMonthInterval(false);
+  m_engine.GotoToday();
+  m_engine.GotoNextPage();
+  ASSERT_EQ(First(), "2024-4-8");
+  m_engine.GotoSpecifiedDate(2024, 4, 24);
+  EXPECT_EQ(First(), "2024-4-15");
+  m_engine.SetDispMonth(kTail);
+  m_engine.GotoNextPage();
+  EXPECT_EQ(m_engine.GetContentRows(), 5);
 }
 
 TEST_F(Logic, DatesAreComparedAsTheyAreGiven) {
@@ -364,20 +386,20 @@ TEST_F(Logic, DatesAreComparedAsTheyAreGiven) {
   m_engine.GotoToday();
   ASSERT_EQ(Last(), "2024-2-29");
   m_engine.GotoSpecifiedDate(2024, 2, 31);  // behind 29 February
-  EXPECT_EQ(Direction(), 2);
+  EXPECT_EQ(Direction(), kForward);
   EXPECT_EQ(First(), "2024-3-2");
 
   SetToday(2024, 3, 2);
   m_engine.GotoToday();
   ASSERT_EQ(First(), "2024-3-1");
   m_engine.GotoSpecifiedDate(2024, 2, 31);  // before 1 March, although it is the 2nd
-  EXPECT_EQ(Direction(), 1);
+  EXPECT_EQ(Direction(), kBackward);
   EXPECT_EQ(Last(), "2024-3-2");
 }
 
 TEST_F(Logic, DateInAWholeMonthKeepsTheDirection) {
   m_engine.SetDispMonth(kMonth);
-  for (const int direction : {0, 1, 2}) {
+  for (const PageDirection direction : {kPlain, kBackward, kForward}) {
     m_engine.m_pageDirection = direction;
     m_engine.GotoSpecifiedDate(2024, 3, 13);
     EXPECT_EQ(Direction(), direction);
@@ -390,10 +412,10 @@ TEST_F(Logic, DateInARollingTailSetsTheDirection) {
   m_engine.SetDispMonth(kTail);
   m_engine.GotoToday();
   m_engine.GotoSpecifiedDate(2024, 3, 31);
-  EXPECT_EQ(Direction(), 0);
+  EXPECT_EQ(Direction(), kPlain);
   EXPECT_EQ(m_engine.GetContentRows(), 5);
   m_engine.GotoSpecifiedDate(2024, 5, 1);  // not on the board: no rows
-  EXPECT_EQ(Direction(), 2);
+  EXPECT_EQ(Direction(), kForward);
   EXPECT_EQ(m_engine.GetContentRows(), 0);
 }
 
@@ -402,10 +424,10 @@ TEST_F(Logic, RejectedDateKeepsTheBoardButSetsTheDirection) {
   m_engine.GotoSpecifiedDate(2100, 1, 1);
   EXPECT_EQ(Focus(), "2024-3-13");
   EXPECT_EQ(First(), "2024-3-4");
-  EXPECT_EQ(Direction(), 2);
+  EXPECT_EQ(Direction(), kForward);
   m_engine.GotoSpecifiedDate(1899, 12, 31);
   EXPECT_EQ(Focus(), "2024-3-13");
-  EXPECT_EQ(Direction(), 1);
+  EXPECT_EQ(Direction(), kBackward);
 }
 
 TEST_F(Logic, AllZeroDateIsToday) {
@@ -413,22 +435,22 @@ TEST_F(Logic, AllZeroDateIsToday) {
   m_engine.GotoSpecifiedDate(2025, 1, 1);
   m_engine.GotoSpecifiedDate(0, 0, 0);
   EXPECT_EQ(Focus(), "2024-3-13");
-  EXPECT_EQ(Direction(), 0);
+  EXPECT_EQ(Direction(), kPlain);
 }
 
 TEST_F(Logic, FirstDateOfAFreshEngineOpensTheBoard) {
   m_engine.GotoSpecifiedDate(2024, 3, 27);
-  EXPECT_EQ(Direction(), 2);
+  EXPECT_EQ(Direction(), kForward);
   EXPECT_EQ(First(), "2024-3-27");
 }
 
 TEST_F(Logic, OffsetOfPagesIsCountedInWeeksOfMaxRows) {
   SetToday(2024, 3, 10);
-  m_engine.m_pageDirection = ePageDirectionForward;
+  m_engine.m_pageDirection = kForward;
   m_engine.GotoTodayOffsetMonth(1);
   EXPECT_EQ(Trace(), "build-logic 2024-4-14");
   EXPECT_EQ(Focus(), "2024-4-14");
-  EXPECT_EQ(Direction(), 0);
+  EXPECT_EQ(Direction(), kPlain);
   m_engine.GotoTodayOffsetMonth(-1);
   EXPECT_EQ(Trace(), "build-logic 2024-2-4");
   m_engine.GotoTodayOffsetMonth(0);
@@ -448,10 +470,10 @@ TEST_F(Logic, OffsetCountsInWeeksInRollingTailAndStripToo) {
   SetToday(2024, 3, 10);
   for (const int mode : {kTail, kStrip, 0, 5}) {
     m_engine.SetDispMonth(mode);
-    m_engine.m_pageDirection = ePageDirectionBackward;
+    m_engine.m_pageDirection = kBackward;
     m_engine.GotoTodayOffsetMonth(1);
     EXPECT_EQ(Trace(), "build-logic 2024-4-14") << mode;
-    EXPECT_EQ(Direction(), 0) << mode;
+    EXPECT_EQ(Direction(), kPlain) << mode;
   }
 }
 
@@ -505,7 +527,7 @@ TEST_F(Logic, OffsetOfMonthsFromJanuaryCrossesTheYearsBackward) {
 
 TEST_F(Logic, OffsetOfMonthsKeepsTheDirection) {
   m_engine.SetDispMonth(kMonth);
-  for (const int direction : {0, 1, 2}) {
+  for (const PageDirection direction : {kPlain, kBackward, kForward}) {
     m_engine.m_pageDirection = direction;
     m_engine.GotoTodayOffsetMonth(3);
     EXPECT_EQ(Direction(), direction);
@@ -653,7 +675,7 @@ TEST_F(Logic, HeadingsFollowTheStartDayAndTheVisibleColumns) {
     ASSERT_EQ(m_engine.GetContentColumns(), 5);
     for (int column = 0; column < 5; ++column) {
       EXPECT_EQ(m_engine.GetCalendarWeekByColumns(column),
-                (start + m_engine.m_visibleColumns[static_cast<std::size_t>(column)]) % 7);
+                (start + m_engine.Built().visible.columns[static_cast<std::size_t>(column)]) % 7);
     }
   }
 }
@@ -698,7 +720,7 @@ TEST_F(Logic, HeadingsOfTheStripAreTheWeekdaysOfItsDates) {
   m_engine.SetDispMonth(kStrip);
   EXPECT_EQ(m_engine.GetCalendarWeekByColumns(0), 0);  // no build yet
   m_engine.GotoSpecifiedDate(2024, 3, 13);
-  ASSERT_EQ(Direction(), 2);
+  ASSERT_EQ(Direction(), kForward);
   for (int column = 0; column < 7; ++column) {
     EXPECT_EQ(m_engine.GetCalendarWeekByColumns(column), (3 + column) % 7);
   }

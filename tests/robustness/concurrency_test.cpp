@@ -43,7 +43,8 @@ TEST(Concurrency, BuildsOfOneBoardExcludeEachOther) {
   });
   Board alone;
   alone.SetDispMonth(eDispMonthWholeMonth);
-  alone._BuildCalendar(board.m_focusYear, board.m_focusMonth, board.m_focusDay);
+  alone._BuildCalendar(board.GetContentDate().year, board.GetContentDate().month,
+                       board.GetContentDate().day);
   EXPECT_EQ(board.RowTexts(), alone.RowTexts());
 }
 

@@ -120,7 +120,7 @@ TEST_F(TimeFailure, WithoutLocalTimeABoardHoldsItsFocusDateAlone) {
     m_board.GotoToday();
     m_board.GotoSpecifiedDate(2024, 3, 13);
     int days = 0;
-    for (const tagCalendarRow& row : m_board.m_rows) {
+    for (const tagCalendarRow& row : m_board.Rows()) {
       for (const CCalendarItem& cell : row.items) {
         days += cell.GetDate().year != 0 ? 1 : 0;
       }

@@ -4,8 +4,11 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "board/build_board.h"
+#include "date/calendar_platform_api.h"
 #include "logic/calendar_logic.h"
 
 namespace almara::test {
@@ -13,33 +16,21 @@ namespace almara::test {
 // An engine that shows its inside and can build without writing the board.
 class Board : public CCalendarLogic {
  public:
-  using CCalendarLogicBuild::m_firstDateItem;
-  using CCalendarLogicBuild::m_focusDay;
-  using CCalendarLogicBuild::m_focusMonth;
-  using CCalendarLogicBuild::m_focusYear;
-  using CCalendarLogicBuild::m_lastDateItem;
-  using CCalendarLogicBuild::m_pageDirection;
-  using CCalendarLogicBuild::m_rows;
-  using CCalendarLogicBuild::m_todayColumn;
-  using CCalendarLogicBuild::m_todayOnBoard;
-  using CCalendarLogicBuild::m_visibleColumnCount;
-  using CCalendarLogicBuild::m_visibleColumns;
-  using CCalendarLogicBuild::m_visibleRowCount;
-  using CCalendarLogicBuild::m_visibleRows;
-  using CCalendarLogicBuild::m_weekNumberSpans;
+  using CCalendarLogic::m_pageDirection;
 
-  // A whole build without the text on the standard output. Returns what _BuildContent() does.
-  int BuildQuietly(int year, int month, int day) {
-    const int result = _BuildContent(year, month, day, m_rows);
-    _CalcRowColumnIndex();
-    _CalcRowSpanByWeekNumber();
-    return result;
+  const BuiltBoard& Built() const { return m_board; }
+  const std::vector<tagCalendarRow>& Rows() const { return m_board.content.rows; }
+
+  // A whole build without the text on the standard output.
+  void BuildQuietly(int year, int month, int day, PageDirection direction = PageDirection::kNone) {
+    m_board = BuildBoard({*this, {year, month, day, 0}, Today(), direction},
+                         std::move(m_board.content), m_weekNumber);
   }
 
   // A row as the dump writes it, without its line end: "11: (3)2024-03-11 (3)2024-03-12 ...".
   std::string RowText(std::size_t row) const {
-    std::string text = std::to_string(m_rows[row].weekNumber) + ":";
-    for (const CCalendarItem& item : m_rows[row].items) {
+    std::string text = std::to_string(Rows()[row].weekNumber) + ":";
+    for (const CCalendarItem& item : Rows()[row].items) {
       text += " " + item.GetDay();
     }
     return text;
@@ -47,22 +38,24 @@ class Board : public CCalendarLogic {
 
   std::vector<std::string> RowTexts() const {
     std::vector<std::string> texts;
-    for (std::size_t row = 0; row < m_rows.size(); ++row) {
+    for (std::size_t row = 0; row < Rows().size(); ++row) {
       texts.push_back(RowText(row));
     }
     return texts;
   }
 
   const CCalendarItem& Cell(std::size_t row, std::size_t column) const {
-    return m_rows[row].items[column];
+    return Rows()[row].items[column];
   }
 
   std::vector<int> VisibleColumns() const {
-    return {m_visibleColumns.begin(), m_visibleColumns.begin() + m_visibleColumnCount};
+    const VisiblePart& visible = m_board.visible;
+    return {visible.columns.begin(), visible.columns.begin() + visible.columnCount};
   }
 
   std::vector<int> VisibleRows() const {
-    return {m_visibleRows.begin(), m_visibleRows.begin() + m_visibleRowCount};
+    const VisiblePart& visible = m_board.visible;
+    return {visible.rows.begin(), visible.rows.begin() + visible.rowCount};
   }
 };
 

@@ -6,11 +6,13 @@
 #include <limits>
 #include <vector>
 
+#include "board/visible_part.h"
 #include "support/board.h"
 #include "support/clock.h"
 
-using almara_test::Board;
-using almara_test::SetToday;
+using almara::PageDirection;
+using almara::test::Board;
+using almara::test::SetToday;
 
 namespace {
 
@@ -27,25 +29,24 @@ Indices Range(int begin, int end) {
   return indices;
 }
 
-class BoardLayout : public testing::Test {
+class VisiblePartOfBoard : public testing::Test {
  protected:
-  BoardLayout() { SetToday(2024, 3, 13); }
+  VisiblePartOfBoard() { SetToday(2024, 3, 13); }
 
-  void Build(int year, int month, int day, EPageDirection direction = ePageDirectionNone) {
-    m_board.m_pageDirection = direction;
-    m_board.BuildQuietly(year, month, day);
+  void Build(int year, int month, int day, PageDirection direction = PageDirection::kNone) {
+    m_board.BuildQuietly(year, month, day, direction);
   }
 
   Board m_board;
 };
 
-TEST_F(BoardLayout, EmptyBoardShowsNoRow) {
-  m_board._CalcRowColumnIndex();
+TEST_F(VisiblePartOfBoard, EmptyBoardShowsNoRow) {
+  Build(1899, 12, 31);
   EXPECT_EQ(m_board.VisibleRows(), Indices{});
   EXPECT_EQ(m_board.VisibleColumns(), Range(0, 7));
 }
 
-TEST_F(BoardLayout, SevenColumnsAreAllVisibleWhereverTodayStands) {
+TEST_F(VisiblePartOfBoard, SevenColumnsAreAllVisibleWhereverTodayStands) {
   for (int day = 11; day <= 17; ++day) {
     SetToday(2024, 3, day);
     Build(2024, 3, 13);
@@ -66,26 +67,26 @@ constexpr AroundToday kAroundToday[] = {
     {6, 5, 1}, {6, 6, 1}, {7, 0, 0}, {7, 3, 0}, {7, 6, 0},
 };
 
-TEST_F(BoardLayout, NarrowRollingWeeksStandAroundToday) {
+TEST_F(VisiblePartOfBoard, NarrowRollingWeeksStandAroundToday) {
   for (const AroundToday& c : kAroundToday) {
     SCOPED_TRACE(testing::Message() << c.columns << " columns, today in " << c.today);
     m_board.SetMaxColumns(c.columns);
     SetToday(2024, 3, 11 + c.today);
     Build(2024, 3, 13);
-    ASSERT_EQ(m_board.m_todayColumn, c.today);
+    ASSERT_EQ(m_board.Built().content.todayColumn, c.today);
     EXPECT_EQ(m_board.VisibleColumns(), Range(c.begin, c.begin + c.columns));
     EXPECT_EQ(m_board.VisibleRows(), Range(0, 5));
   }
 }
 
-TEST_F(BoardLayout, NarrowRollingWeeksWithoutTodayShowAllColumns) {
+TEST_F(VisiblePartOfBoard, NarrowRollingWeeksWithoutTodayShowAllColumns) {
   m_board.SetMaxColumns(3);
   SetToday(2024, 5, 1);
   Build(2024, 3, 13);
   EXPECT_EQ(m_board.VisibleColumns(), Range(0, 7));
 }
 
-TEST_F(BoardLayout, MaxColumnsNarrowNoMonth) {
+TEST_F(VisiblePartOfBoard, MaxColumnsNarrowNoMonth) {
   m_board.SetMaxColumns(3);
   for (const int mode : {2, 3, 0, 5}) {
     m_board.SetDispMonth(mode);
@@ -94,7 +95,7 @@ TEST_F(BoardLayout, MaxColumnsNarrowNoMonth) {
   }
 }
 
-TEST_F(BoardLayout, StripShowsItsColumnsFromTheFirst) {
+TEST_F(VisiblePartOfBoard, StripShowsItsColumnsFromTheFirst) {
   m_board.SetDispMonth(eDispMonthDayStrip);
   for (int columns = 1; columns <= 7; ++columns) {
     m_board.SetMaxColumns(columns);
@@ -104,13 +105,13 @@ TEST_F(BoardLayout, StripShowsItsColumnsFromTheFirst) {
   }
 }
 
-TEST_F(BoardLayout, HiddenBreakDaysLeaveMondayToFriday) {
+TEST_F(VisiblePartOfBoard, HiddenBreakDaysLeaveMondayToFriday) {
   m_board.SetShowBreakDayOfWeek(false);
   Build(2024, 3, 13);
   EXPECT_EQ(m_board.VisibleColumns(), Range(0, 5));
 }
 
-TEST_F(BoardLayout, HiddenBreakDaysFollowTheStartDayOfWeek) {
+TEST_F(VisiblePartOfBoard, HiddenBreakDaysFollowTheStartDayOfWeek) {
   m_board.SetShowBreakDayOfWeek(false);
   const Indices expected[] = {{1, 2, 3, 4, 5}, {0, 1, 2, 3, 4}, {0, 1, 2, 3, 6}, {0, 1, 2, 5, 6},
                               {0, 1, 4, 5, 6}, {0, 3, 4, 5, 6}, {2, 3, 4, 5, 6}};
@@ -123,7 +124,7 @@ TEST_F(BoardLayout, HiddenBreakDaysFollowTheStartDayOfWeek) {
 
 // The days are laid out from Monday then, but the columns to hide are counted from the value as it
 // is set.
-TEST_F(BoardLayout, StartDayOfWeekOutsideTheWeekHidesOtherColumnsThanItsBreakDays) {
+TEST_F(VisiblePartOfBoard, StartDayOfWeekOutsideTheWeekHidesOtherColumnsThanItsBreakDays) {
   m_board.SetShowBreakDayOfWeek(false);
   struct {
     int start;
@@ -146,7 +147,7 @@ TEST_F(BoardLayout, StartDayOfWeekOutsideTheWeekHidesOtherColumnsThanItsBreakDay
   }
 }
 
-TEST_F(BoardLayout, HiddenBreakDaysNarrowTheRangeFurther) {
+TEST_F(VisiblePartOfBoard, HiddenBreakDaysNarrowTheRangeFurther) {
   m_board.SetShowBreakDayOfWeek(false);
   m_board.SetMaxColumns(3);
   SetToday(2024, 3, 16);  // a Saturday
@@ -158,7 +159,7 @@ TEST_F(BoardLayout, HiddenBreakDaysNarrowTheRangeFurther) {
   EXPECT_EQ(m_board.VisibleRows(), Indices{});
 }
 
-TEST_F(BoardLayout, HideBreakDayFlagHidesNothing) {
+TEST_F(VisiblePartOfBoard, HideBreakDayFlagHidesNothing) {
   m_board.SetHideBreakDay(true);
   Build(2024, 3, 13);
   EXPECT_EQ(m_board.VisibleColumns(), Range(0, 7));
@@ -170,7 +171,7 @@ TEST_F(BoardLayout, HideBreakDayFlagHidesNothing) {
 }
 
 // Columns of a strip are not its weekdays, but they are hidden as if they were.
-TEST_F(BoardLayout, StripHidesTheColumnsOfAWeekBoard) {
+TEST_F(VisiblePartOfBoard, StripHidesTheColumnsOfAWeekBoard) {
   m_board.SetDispMonth(eDispMonthDayStrip);
   m_board.SetShowBreakDayOfWeek(false);
   Build(2024, 3, 13);  // Sunday 10 March in column 0
@@ -178,7 +179,7 @@ TEST_F(BoardLayout, StripHidesTheColumnsOfAWeekBoard) {
   EXPECT_EQ(m_board.Cell(0, 0).GetDate().day, 10);
 }
 
-TEST_F(BoardLayout, AllDaysAreBreakDays) {
+TEST_F(VisiblePartOfBoard, AllDaysAreBreakDays) {
   m_board.SetShowBreakDayOfWeek(false);
   for (int day = 0; day <= 6; ++day) {
     m_board.SetBreakDayOfWeek(day, true);
@@ -186,41 +187,41 @@ TEST_F(BoardLayout, AllDaysAreBreakDays) {
   Build(2024, 3, 13);
   EXPECT_EQ(m_board.VisibleColumns(), Indices{});
   EXPECT_EQ(m_board.VisibleRows(), Indices{});
-  EXPECT_EQ(m_board.m_rows.size(), 5U);
+  EXPECT_EQ(m_board.Rows().size(), 5U);
   EXPECT_EQ(m_board.GetWeekNumberCount(), 0);
 }
 
-TEST_F(BoardLayout, FiftyRowsAreVisibleAtMost) {
+TEST_F(VisiblePartOfBoard, FiftyRowsAreVisibleAtMost) {
   for (const int rows : {49, 50, 51, 60}) {
     m_board.SetMaxRows(rows);
     Build(2024, 3, 13);
-    EXPECT_EQ(m_board.m_rows.size(), static_cast<std::size_t>(rows));
+    EXPECT_EQ(m_board.Rows().size(), static_cast<std::size_t>(rows));
     EXPECT_EQ(m_board.VisibleRows(), Range(0, rows < 50 ? rows : 50));
   }
 }
 
 // The fifty rows are the first of the board, before any is hidden.
-TEST_F(BoardLayout, RowsBehindTheFiftiethAreNotLookedAt) {
+TEST_F(VisiblePartOfBoard, RowsBehindTheFiftiethAreNotLookedAt) {
   m_board.SetMaxRows(60);
   m_board.SetShowBreakDayOfWeek(false);
   Build(2024, 3, 13);
-  EXPECT_LT(m_board.m_visibleRowCount, 50);
+  EXPECT_LT(m_board.GetContentRows(), 50);
   EXPECT_LT(m_board.VisibleRows().back(), 50);
 }
 
-TEST_F(BoardLayout, BandRowStaysVisibleWithBreakDays) {
+TEST_F(VisiblePartOfBoard, BandRowStaysVisibleWithBreakDays) {
   Build(2024, 3, 13);  // the last row is a band from its title on
   EXPECT_EQ(m_board.VisibleRows(), Range(0, 5));
 }
 
-TEST_F(BoardLayout, TitleKeepsARowWithoutBreakDays) {
+TEST_F(VisiblePartOfBoard, TitleKeepsARowWithoutBreakDays) {
   m_board.SetShowBreakDayOfWeek(false);
   Build(2024, 3, 13);
   EXPECT_EQ(m_board.VisibleRows(), Range(0, 5));
 }
 
 // June 2024 begins on a Saturday: its title stands in a hidden column.
-TEST_F(BoardLayout, RowOfFillersGoesWithoutBreakDays) {
+TEST_F(VisiblePartOfBoard, RowOfFillersGoesWithoutBreakDays) {
   m_board.SetMaxRows(6);
   Build(2024, 5, 22);  // rows from 13 May, the band from 1 June's column on
   ASSERT_EQ(m_board.Cell(2, 5).GetType(), eCalendarItemMonthTitle);
@@ -230,16 +231,16 @@ TEST_F(BoardLayout, RowOfFillersGoesWithoutBreakDays) {
   EXPECT_EQ(m_board.VisibleRows(), (Indices{0, 1, 2, 4, 5}));
 }
 
-TEST_F(BoardLayout, RowOfHiddenDaysGoesWithoutBreakDays) {
+TEST_F(VisiblePartOfBoard, RowOfHiddenDaysGoesWithoutBreakDays) {
   m_board.SetDispMonth(eDispMonthWholeMonth);
   m_board.SetShowBreakDayOfWeek(false);
   Build(2024, 6, 12);  // 1 June is a Saturday: the first row has hidden days and the weekend
-  EXPECT_EQ(m_board.m_rows.size(), 5U);
+  EXPECT_EQ(m_board.Rows().size(), 5U);
   EXPECT_EQ(m_board.VisibleRows(), (Indices{1, 2, 3, 4}));
 }
 
 // A break day may stand in a visible column of a strip; today on one keeps the row no more.
-TEST_F(BoardLayout, RowOfBreakDaysGoesWithoutBreakDays) {
+TEST_F(VisiblePartOfBoard, RowOfBreakDaysGoesWithoutBreakDays) {
   m_board.SetDispMonth(eDispMonthDayStrip);
   m_board.SetShowBreakDayOfWeek(false);
   m_board.SetMaxColumns(2);
@@ -254,54 +255,44 @@ TEST_F(BoardLayout, RowOfBreakDaysGoesWithoutBreakDays) {
   EXPECT_EQ(m_board.VisibleRows(), Range(0, 1));
 }
 
-TEST_F(BoardLayout, EmptyCellsKeepARow) {
-  m_board.SetShowBreakDayOfWeek(false);
-  m_board.m_rows.assign(3, tagCalendarRow{});
-  for (CCalendarItem& item : m_board.m_rows[1].items) {
-    item.SetType(eCalendarItemBlank);
-  }
-  m_board._CalcRowColumnIndex();
-  EXPECT_EQ(m_board.VisibleRows(), (Indices{0, 2}));
-}
-
-TEST_F(BoardLayout, EachKindKeepsOrLosesARow) {
+TEST_F(VisiblePartOfBoard, EachKindKeepsOrLosesARow) {
   m_board.SetShowBreakDayOfWeek(false);
   const bool keeps[] = {false, true, false, true, true, false, false, true};
-  for (ECalendarItem type = 1; type <= 7; ++type) {
-    m_board.m_rows.assign(1, tagCalendarRow{});
-    for (CCalendarItem& item : m_board.m_rows[0].items) {
+  for (ECalendarItem kind = eCalendarItemEmpty; kind <= eCalendarItemMonthTitle; ++kind) {
+    almara::BoardContent content;
+    content.rows.resize(1);
+    for (CCalendarItem& item : content.rows[0].items) {
       item.SetType(eCalendarItemBlank);
     }
-    m_board.m_rows[0].items[4].SetType(type);
-    m_board.m_rows[0].items[5].SetType(eCalendarItemDay);  // in a hidden column
-    m_board._CalcRowColumnIndex();
-    EXPECT_EQ(m_board.m_visibleRowCount, keeps[type] ? 1 : 0) << type;
+    content.rows[0].items[4].SetType(kind);
+    content.rows[0].items[5].SetType(eCalendarItemDay);  // in a hidden column
+    EXPECT_EQ(almara::ChooseVisiblePart(m_board, content).rowCount, keeps[kind] ? 1 : 0) << kind;
   }
 }
 
-TEST_F(BoardLayout, UnusedIndicesAre0) {
+TEST_F(VisiblePartOfBoard, UnusedIndicesAre0) {
   m_board.SetMaxRows(50);
   Build(2024, 3, 13);
   m_board.SetMaxRows(2);
   m_board.SetShowBreakDayOfWeek(false);
   Build(2024, 3, 13);
   for (std::size_t row = 2; row < 50; ++row) {
-    EXPECT_EQ(m_board.m_visibleRows[row], 0);
+    EXPECT_EQ(m_board.Built().visible.rows[row], 0);
   }
-  EXPECT_EQ(m_board.m_visibleColumns[5], 0);
-  EXPECT_EQ(m_board.m_visibleColumns[6], 0);
+  EXPECT_EQ(m_board.Built().visible.columns[5], 0);
+  EXPECT_EQ(m_board.Built().visible.columns[6], 0);
 }
 
-TEST_F(BoardLayout, RejectedDateIsLaidOutAgainFromTheRowsBefore) {
+TEST_F(VisiblePartOfBoard, RejectedDateIsLaidOutAgainFromTheRowsBefore) {
   Build(2024, 3, 13);
   m_board.SetShowBreakDayOfWeek(false);
   Build(1899, 12, 31);
   EXPECT_EQ(m_board.VisibleColumns(), Range(0, 5));
-  EXPECT_EQ(m_board.m_rows.size(), 5U);
+  EXPECT_EQ(m_board.Rows().size(), 5U);
   m_board.SetMaxColumns(3);
   Build(2024, 2, 32);
   EXPECT_EQ(m_board.VisibleColumns(), (Indices{1, 2, 3}));
-  EXPECT_EQ(m_board.m_weekNumberSpans[0].firstWeekCells, 3);
+  EXPECT_EQ(m_board.Built().spans[0].firstWeekCells, 3);
 }
 
 }  // namespace

@@ -1,13 +1,20 @@
 // SPDX-License-Identifier: MIT
-//
-// The spans of the week-number column. A row whose cells all belong to one week is a span of its
-// own; rows that a month interval has cut in two are put together again, so that each week has one
-// box.
-#include "board/calendar_logic_build.h"
+#include "board/week_spans.h"
+
+#include <cstddef>
+
+namespace almara {
 
 namespace {
 
 constexpr int kLongYearWeek = 53;
+
+// The end of a visible row.
+struct RowEnd {
+  bool isFirst;  // of the visible rows
+  bool isLast;
+  int lastWeek;  // week number of the row's last cell
+};
 
 class WeekSpanBuilder {
  public:
@@ -36,17 +43,14 @@ class WeekSpanBuilder {
     }
   }
 
-  // Ends the current row: closes the span or lets the next row add to it. lastWeek is the week
-  // number of the row's last cell. A span never holds more than two rows, so it cannot have
-  // collected more than a row's worth of undated cells beside a full row of one week.
-  void EndRow(bool firstRow, bool lastRow, int lastWeek) {
+  // Closes the span or lets the next row add to it. A span never holds more than two rows, so it
+  // cannot have collected more than a row's worth of undated cells beside a full row of one week.
+  void EndRow(const RowEnd& end) {
     const bool oneWeek = m_span.weekNumber > 0 && m_span.secondWeekNumber == 0;
     if (oneWeek && m_span.firstWeekCells == m_visibleColumns) {
       Emit();
-    } else if (m_span.weekNumber < 1) {
-      EndOpenRow(firstRow, lastRow, lastWeek, false);
-    } else if (m_span.secondWeekNumber < 1 || lastWeek < 1) {
-      EndOpenRow(firstRow, lastRow, lastWeek, true);
+    } else if (m_span.secondWeekNumber < 1 || end.lastWeek < 1) {
+      EndOpenRow(end);
     } else {
       EndRowOfTwoWeeks();
     }
@@ -71,12 +75,13 @@ class WeekSpanBuilder {
   }
 
   // A row that may go on in the next one.
-  void EndOpenRow(bool firstRow, bool lastRow, int lastWeek, bool hasWeek) {
+  void EndOpenRow(const RowEnd& end) {
     const bool longYear = m_span.secondWeekNumber == kLongYearWeek;
-    const bool mayStandAlone = firstRow || m_startDay == eCalendarWeekMonday;
-    if (m_span.rows <= 1 && lastRow) {
+    const bool endsWithWeek = m_span.weekNumber > 0 && end.lastWeek > 0;
+    const bool mayStandAlone = end.isFirst || m_startDay == eCalendarWeekMonday;
+    if (m_span.rows <= 1 && end.isLast) {
       EndLastRow();
-    } else if (m_span.rows > 1 || longYear || (hasWeek && lastWeek > 0 && mayStandAlone)) {
+    } else if (m_span.rows > 1 || longYear || (endsWithWeek && mayStandAlone)) {
       Emit();
     } else {
       ++m_span.rows;
@@ -115,17 +120,22 @@ class WeekSpanBuilder {
 
 }  // namespace
 
-void CCalendarLogicBuild::_CalcRowSpanByWeekNumber() {
-  m_weekNumberSpans.clear();
-  WeekSpanBuilder builder(m_weekNumberSpans, GetWeekNumberCalcType() == eWeekNumberCalcIso8601,
-                          GetStartDayOfWeek(), m_visibleColumnCount);
-  for (int r = 0; r < m_visibleRowCount; ++r) {
-    const auto& items = _VisibleRow(r).items;
-    for (int c = 0; c < m_visibleColumnCount; ++c) {
-      builder.AddCell(items[_VisibleColumn(c)].GetWeekNumber());
+std::vector<tagCalendarWeekSpan> JoinWeeks(const CCalendarConfig& options,
+                                           const std::vector<tagCalendarRow>& rows,
+                                           const VisiblePart& visible) {
+  std::vector<tagCalendarWeekSpan> spans;
+  WeekSpanBuilder builder(spans, options.GetWeekNumberCalcType() == eWeekNumberCalcIso8601,
+                          options.GetStartDayOfWeek(), visible.columnCount);
+  for (int r = 0; r < visible.rowCount; ++r) {
+    const auto& items = rows[visible.RowAt(r)].items;
+    for (int c = 0; c < visible.columnCount; ++c) {
+      builder.AddCell(items[visible.ColumnAt(c)].GetWeekNumber());
     }
-    // The board column of this index, not the visible one; hosts rely on it.
-    const auto lastColumn = static_cast<std::size_t>(m_visibleColumnCount - 1);
-    builder.EndRow(r == 0, r == m_visibleRowCount - 1, items[lastColumn].GetWeekNumber());
+    // The last cell is that of the board column with this index, not of the last visible column.
+    const auto lastColumn = static_cast<std::size_t>(visible.columnCount - 1);
+    builder.EndRow({r == 0, r == visible.rowCount - 1, items[lastColumn].GetWeekNumber()});
   }
+  return spans;
 }
+
+}  // namespace almara

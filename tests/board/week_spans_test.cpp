@@ -4,6 +4,7 @@
 // U is a cell without one.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <ostream>
@@ -11,10 +12,11 @@
 #include <type_traits>
 #include <vector>
 
+#include "board/week_spans.h"
 #include "support/board.h"
 #include "support/clock.h"
 
-using almara_test::Board;
+using almara::test::Board;
 
 bool operator==(const tagCalendarWeekSpan& a, const tagCalendarWeekSpan& b) {
   const auto tie = [](const tagCalendarWeekSpan& s) {
@@ -51,26 +53,24 @@ class WeekNumberSpans : public testing::Test {
   // The spans of rows of which the given columns are visible, all seven if none is named.
   Spans Of(const std::vector<Week>& weeks,
            const std::vector<int>& columns = {0, 1, 2, 3, 4, 5, 6}) {
-    m_board.m_rows.assign(weeks.size(), tagCalendarRow{});
+    std::vector<tagCalendarRow> rows(weeks.size());
+    almara::VisiblePart visible;
     for (std::size_t row = 0; row < weeks.size(); ++row) {
       for (std::size_t column = 0; column < 7; ++column) {
-        m_board.m_rows[row].items[column].SetWeekNumber(weeks[row][column]);
+        rows[row].items[column].SetWeekNumber(weeks[row][column]);
       }
-      m_board.m_visibleRows[row] = static_cast<int>(row);
+      visible.rows[row] = static_cast<int>(row);
     }
-    m_board.m_visibleRowCount = static_cast<int>(weeks.size());
-    m_board.m_visibleColumnCount = static_cast<int>(columns.size());
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-      m_board.m_visibleColumns[i] = columns[i];
-    }
-    m_board._CalcRowSpanByWeekNumber();
-    return m_board.m_weekNumberSpans;
+    visible.rowCount = static_cast<int>(weeks.size());
+    visible.columnCount = static_cast<int>(columns.size());
+    std::copy(columns.begin(), columns.end(), visible.columns.begin());
+    return almara::JoinWeeks(m_options, rows, visible);
   }
 
-  void SundayFirst() { m_board.SetStartDayOfWeek(0); }
-  void SaturdayFirst() { m_board.SetStartDayOfWeek(6); }
+  void SundayFirst() { m_options.SetStartDayOfWeek(0); }
+  void SaturdayFirst() { m_options.SetStartDayOfWeek(6); }
 
-  Board m_board;
+  CCalendarConfig m_options;
 };
 
 TEST_F(WeekNumberSpans, NoVisibleRowNoSpan) {
@@ -98,7 +98,7 @@ TEST_F(WeekNumberSpans, LaterRowThatEndsWithAWeekStandsAloneFromMondayOnly) {
   EXPECT_EQ(Of(weeks), (Spans{{8, 7, 0, 0, 0, 1}, {9, 3, 0, 0, 4, 1}, {10, 7, 0, 0, 0, 1}}));
   // Otherwise it goes on in the next row, where week 10 becomes the second one.
   SundayFirst();
-  m_board.SetWeekNumberCalcType(0);
+  m_options.SetWeekNumberCalcType(0);
   EXPECT_EQ(Of(weeks), (Spans{{8, 7, 0, 0, 0, 1}, {9, 3, 10, 7, 4, 2}}));
 }
 
@@ -173,14 +173,14 @@ TEST_F(WeekNumberSpans, LeadingSundayGivesWayToTheWeekOfTheRow) {
 TEST_F(WeekNumberSpans, LeadingSundayStaysUnderAnyOtherRule) {
   SundayFirst();
   for (const int type : {0, 2, 3, -1}) {
-    m_board.SetWeekNumberCalcType(type);
+    m_options.SetWeekNumberCalcType(type);
     EXPECT_EQ(Of({{9, 10, 10, 10, 10, 10, 10}}), (Spans{{9, 1, 10, 6, 0, 1}})) << type;
   }
 }
 
 TEST_F(WeekNumberSpans, LeadingSundayStaysUnderAnyOtherStartDay) {
   for (const int start : {1, 6, 7, -7}) {  // 7 is no Sunday here
-    m_board.SetStartDayOfWeek(start);
+    m_options.SetStartDayOfWeek(start);
     EXPECT_EQ(Of({{9, 10, 10, 10, 10, 10, 10}}), (Spans{{9, 1, 10, 6, 0, 1}})) << start;
   }
 }
@@ -206,7 +206,7 @@ TEST_F(WeekNumberSpans, FirstWeekOfANewYearWinsInOneRow) {
   EXPECT_EQ(Of({{52, 52, 1, 1, 1, 1, 1}}), (Spans{{1, 2, 1, 5, 0, 1}}));
   SundayFirst();
   EXPECT_EQ(Of({{52, 1, 1, 1, 1, 1, 1}}), (Spans{{1, 1, 0, 6, 0, 1}}));
-  m_board.SetWeekNumberCalcType(0);
+  m_options.SetWeekNumberCalcType(0);
   EXPECT_EQ(Of({{53, 1, 1, 1, 1, 1, 1}}), (Spans{{1, 1, 1, 6, 0, 1}}));
 }
 
@@ -257,8 +257,8 @@ TEST_F(WeekNumberSpans, Week53AsTheFirstDoesNotCloseTheRow) {
 }
 
 TEST_F(WeekNumberSpans, StartDayOutsideTheWeekIsNotMonday) {
-  m_board.SetStartDayOfWeek(8);
-  m_board.SetWeekNumberCalcType(0);
+  m_options.SetStartDayOfWeek(8);
+  m_options.SetWeekNumberCalcType(0);
   EXPECT_EQ(Of({AllOf(8), {U, U, U, U, 9, 9, 9}, AllOf(10)}),
             (Spans{{8, 7, 0, 0, 0, 1}, {9, 3, 10, 7, 4, 2}}));
 }
@@ -287,35 +287,37 @@ TEST_F(WeekNumberSpans, EndOfTheRowIsTheBoardColumnOfTheVisibleCount) {
             (Spans{{8, 1, 0, 0, 0, 1}, {9, 1, 0, 0, 1, 2}}));
 }
 
-TEST_F(WeekNumberSpans, HiddenRowsAreSkipped) {
-  Of({AllOf(8), AllOf(U), AllOf(9)});
-  m_board.m_visibleRows[1] = 2;
-  m_board.m_visibleRowCount = 2;
-  m_board._CalcRowSpanByWeekNumber();
-  EXPECT_EQ(m_board.m_weekNumberSpans, (Spans{{8, 7, 0, 0, 0, 1}, {9, 7, 0, 0, 0, 1}}));
-}
-
-TEST_F(WeekNumberSpans, NoVisibleColumnNoSpan) {
-  m_board.SetShowBreakDayOfWeek(false);
-  for (int day = 0; day <= 6; ++day) {
-    m_board.SetBreakDayOfWeek(day, true);
-  }
-  m_board.BuildQuietly(2024, 3, 13);
-  EXPECT_EQ(m_board.m_weekNumberSpans, Spans{});
-}
-
 // Built boards.
 class SpansOfBoards : public testing::Test {
  protected:
-  SpansOfBoards() { almara_test::SetToday(2030, 7, 17); }
+  SpansOfBoards() { almara::test::SetToday(2030, 7, 17); }
 
   Spans Build(int year, int month, int day) {
     m_board.BuildQuietly(year, month, day);
-    return m_board.m_weekNumberSpans;
+    return m_board.Built().spans;
   }
 
   Board m_board;
 };
+
+TEST_F(SpansOfBoards, NoVisibleColumnNoSpan) {
+  m_board.SetShowBreakDayOfWeek(false);
+  for (int day = 0; day <= 6; ++day) {
+    m_board.SetBreakDayOfWeek(day, true);
+  }
+  EXPECT_EQ(Build(2024, 3, 13), Spans{});
+}
+
+// The row of fillers under 1 June, a Saturday, is hidden.
+TEST_F(SpansOfBoards, HiddenRowsAreSkipped) {
+  m_board.SetMaxRows(6);
+  m_board.SetShowBreakDayOfWeek(false);
+  EXPECT_EQ(Build(2024, 5, 22), (Spans{{20, 5, 0, 0, 0, 1},
+                                       {21, 5, 0, 0, 0, 1},
+                                       {22, 5, 0, 0, 0, 1},
+                                       {23, 5, 0, 0, 0, 1},
+                                       {24, 5, 0, 0, 0, 1}}));
+}
 
 TEST_F(SpansOfBoards, DefaultBoardWithABandRowAtItsEnd) {
   EXPECT_EQ(
