@@ -13,7 +13,7 @@ trap 'rm -rf "$work"' EXIT
 # A copy without .git, in a place with a name that is not easy.
 copy="$work/a (copy) of älmara"
 mkdir "$copy"
-cp -r "$root/scripts" "$copy"
+cp -r "$root/scripts" "$root/include" "$copy"
 ln -s "$copy/scripts/test" "$work/link"
 
 # expect <status> <text> <command>...: the status, and a single message of one line unless it is 0.
