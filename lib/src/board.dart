@@ -2,6 +2,7 @@
 import 'almara_bindings.dart';
 import 'codes.dart';
 import 'dates.dart';
+import 'records.dart';
 
 /// What the engine shows for a date: rows of cells, headings, and the column of
 /// week numbers. A value: it does not change when the engine goes on.
@@ -49,7 +50,7 @@ final class Board {
 /// One cell of a [Board].
 final class BoardCell {
   BoardCell._(this.kind, tagCalendarCell cell)
-    : date = _dateOrNull(cell.year, cell.month, cell.day),
+    : date = dateOrNull(cell.year, cell.month, cell.day),
       titleMonth = kind == CellKind.monthTitle ? cell.month : null,
       weekday = kind.isDay ? Weekday.fromCode(cell.dayOfWeek) : null,
       weekNumber = cell.weekNumber == -1 ? null : cell.weekNumber,
@@ -118,9 +119,8 @@ Board readBoard(AlmaraBindings engine) {
   final columns = engine.GetContentColumns();
   final rows = engine.GetContentRows();
   final spans = engine.GetWeekNumberCount();
-  final date = engine.GetContentDate();
   return Board._(
-    date: _dateOrNull(date.year, date.month, date.day),
+    date: solarDateOf(engine.GetContentDate()),
     showsToday: engine.IsTodayInBoard(),
     headings: List<Weekday>.unmodifiable([
       for (var column = 0; column < columns; column++)
@@ -142,6 +142,3 @@ Board readBoard(AlmaraBindings engine) {
 
 BoardCell _cellOf(tagCalendarCell cell) =>
     BoardCell._(CellKind.fromCode(cell.type), cell);
-
-CalendarDate? _dateOrNull(int year, int month, int day) =>
-    year == 0 ? null : CalendarDate(year, month, day);

@@ -7,6 +7,7 @@ import 'almara_bindings.dart';
 import 'board.dart';
 import 'codes.dart';
 import 'dates.dart';
+import 'records.dart';
 
 /// What the engine knows about one date.
 final class DayNotes {
@@ -134,12 +135,7 @@ class AlmaraEngine {
   }
 
   /// Today's date in the machine's zone. Null if the clock cannot be read.
-  CalendarDate? get today {
-    final date = _c.GetToday();
-    return date.year == 0
-        ? null
-        : CalendarDate(date.year, date.month, date.day);
-  }
+  CalendarDate? get today => solarDateOf(_c.GetToday());
 
   // Annotating dates.
 
@@ -158,22 +154,9 @@ class AlmaraEngine {
     if (region == null) {
       throw StateError('start() fixes the region that dates are annotated for');
     }
-    final solar = _c.CreateSolarDate(
-      _int32(date.year, 'year'),
-      _int32(date.month, 'month'),
-      _int32(date.day, 'day'),
-      0,
-    );
-    final lunar = _c.ConverterLunarWithDate(solar);
+    final solar = solarRecordOf(_c, date);
     return DayNotes(
-      lunarDate: lunar.month == 0
-          ? null
-          : LunarDate(
-              lunar.year,
-              lunar.month,
-              lunar.day,
-              isLeapMonth: lunar.leap == 1,
-            ),
+      lunarDate: lunarDateOf(_c.ConverterLunarWithDate(solar)),
       solarTerm: SolarTerm.fromCode(_c.Check24SekkiWithDate(solar)),
       solarFestival: SolarFestival.fromCode(
         _c.CheckFestivalSolarWithLang(region.code, solar),
@@ -284,9 +267,6 @@ class AlmaraEngine {
       malloc.free(text);
     }
   }
-
-  static int _int32(int value, String name) =>
-      RangeError.checkValueInInterval(value, -0x80000000, 0x7fffffff, name);
 
   static int _known(Enum value, int code) => code == -1
       ? throw ArgumentError.value(value, null, 'not a value of the library')

@@ -15,8 +15,8 @@ const objectMembers = ['toString', 'hashCode', 'runtimeType'];
 // What the names of variables stand for: the class whose members they have, by folder.
 const receivers = {
   lib: {
-    _c: 'AlmaraBindings', engine: 'AlmaraBindings', cell: 'tagCalendarCell',
-    span: 'tagWeekNumberSpan', lunar: 'CCalendarLunarDate',
+    _c: 'AlmaraBindings', engine: 'AlmaraBindings', library: 'AlmaraBindings',
+    cell: 'tagCalendarCell', span: 'tagWeekNumberSpan',
   },
   application: {
     engine: 'AlmaraEngine', board: 'Board', _board: 'Board', cell: 'BoardCell', week: 'WeekSpan',

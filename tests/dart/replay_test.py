@@ -122,7 +122,7 @@ class ReplayTest(unittest.TestCase):
                           *calls_in(body_of("showsMonthIntervals =", ENGINE)),
                           *calls_in(body_of("start", ENGINE)),
                           *calls_in(body_of("readBoard", BOARD))])
-        annotations = calls_in(body_of("annotate", ENGINE))
+        annotations = ["CreateSolarDate", *calls_in(body_of("annotate", ENGINE))]
         self.assertEqual(engine.calls[before:], annotations * sum(len(row) for _, row in board))
 
 
