@@ -31,6 +31,16 @@ class IcuChineseCalendar {
             m_calendar->get(UCAL_IS_LEAP_MONTH, m_status)};
   }
 
+  // The instant at which a lunar date begins.
+  UDate SolarDate(const CCalendarLunarDate& date) {
+    m_calendar->clear();
+    m_calendar->set(UCAL_EXTENDED_YEAR, date.year);
+    m_calendar->set(UCAL_MONTH, date.month - 1);
+    m_calendar->set(UCAL_IS_LEAP_MONTH, date.leap);
+    m_calendar->set(UCAL_DATE, date.day);
+    return m_calendar->getTime(m_status);
+  }
+
  private:
   UErrorCode m_status = U_ZERO_ERROR;
   std::unique_ptr<icu::Calendar> m_calendar;

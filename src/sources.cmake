@@ -35,8 +35,16 @@ set(ALMARA_ENGINE_SOURCES
   festival/calendar_festival_function.cpp
   festival/lunar_festival_rules.cpp
   festival/solar_festival_rules.cpp
+  almanac/anniversary.cpp
+  almanac/calendar.cpp
+  almanac/certainty.cpp
+  almanac/festival_of_date.cpp
+  almanac/instant_record.cpp
+  almanac/lunar_date.cpp
+  almanac/lunar_month.cpp
   logic/annotation_lookups.cpp
   logic/calendar_logic.cpp
+  api/almanac_exports.cpp
   api/annotation_exports.cpp
   api/bool_setters.cpp
   api/engine.cpp

@@ -58,8 +58,8 @@ void main() {
       expect(titles.first.date, isNull);
       expect(titles.first.weekday, isNull);
       expect(titles.first.titleMonth, isNotNull);
-      final heights = board.weeks.map((week) => week.rows);
-      expect(heights.reduce((a, b) => a + b), board.rows.length);
+      expect(board.weeks.fold(0, (sum, week) => sum + week.rows),
+          board.rows.length);
     });
 
     test('turns pages', () {

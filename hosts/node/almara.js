@@ -13,6 +13,7 @@ const records = {
   CCalendarLunarDate: 'year month day reserved leap',
   tagCalendarCell: 'year month day dayOfWeek weekNumber row column type',
   tagWeekNumberSpan: 'weekNumber secondWeekNumber rows',
+  AlmanacInstant: 'year month day dayOfWeek hour minute second offset uncertainty certain',
 };
 
 const constants = {
@@ -140,6 +141,14 @@ const constants = {
   eFestivalLunarNewYearsEve: 20009,
   eFestivalLunarBuddhasBirthday: 20010,
   eFestivalLunarHungKings: 20012,
+  eAlmanacNone: 0,
+  eAlmanacChina: 1,
+  eAlmanacKorea: 2,
+  eAlmanacVietnam: 3,
+  eAlmanacJapan: 4,
+  eAlmanacAnniversaryEveryYear: 0,
+  eAlmanacAnniversaryLeapMonthOnly: 1,
+  eAlmanacAnniversaryDay30Only: 2,
 };
 
 const functions = `
@@ -186,6 +195,21 @@ void SetWeekNumberCalcType(EWeekNumberCalc type);
 void SetBreakDayOfWeek(int32_t dayOfWeek, bool isBreak);
 bool IsBreakDayOfWeek(int32_t dayOfWeek);
 char* GetConfigKey(void);
+EAlmanacCalendar AlmanacCalendarAtOffset(int32_t minutes);
+EAlmanacCalendar AlmanacCalendarOfLanguage(ELanguage language);
+CCalendarLunarDate AlmanacLunarDate(EAlmanacCalendar calendar, CCalendarSolarDate date);
+CCalendarSolarDate AlmanacSolarDate(EAlmanacCalendar calendar, CCalendarLunarDate date);
+CCalendarSolarDate AlmanacFirstDayOfYear(EAlmanacCalendar calendar, int32_t year);
+int32_t AlmanacDaysOfYear(EAlmanacCalendar calendar, int32_t year);
+int32_t AlmanacMonthsOfYear(EAlmanacCalendar calendar, int32_t year);
+int32_t AlmanacLeapMonth(EAlmanacCalendar calendar, int32_t year);
+int32_t AlmanacDaysOfMonth(EAlmanacCalendar calendar, int32_t year, int32_t month, int32_t leap);
+CCalendarSolarDate AlmanacNextAnniversary(EAlmanacCalendar calendar, CCalendarLunarDate date, CCalendarSolarDate from, EAlmanacAnniversary rules);
+AlmanacInstant AlmanacTermInstant(EAlmanacCalendar calendar, int32_t year, ESolarKyureki24 term);
+AlmanacInstant AlmanacNewMoonOfYear(EAlmanacCalendar calendar, int32_t year, int32_t index);
+AlmanacInstant AlmanacNewMoonOfMonth(EAlmanacCalendar calendar, int32_t year, int32_t month, int32_t leap);
+ESolarKyureki24 AlmanacTermOfDate(EAlmanacCalendar calendar, CCalendarSolarDate date);
+EFestivalLunar AlmanacLunarFestival(EAlmanacCalendar calendar, ELanguage language, CCalendarSolarDate date);
 `;
 // --- end
 

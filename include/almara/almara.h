@@ -47,9 +47,9 @@
 #include <stdint.h>
 
 #define ALMARA_VERSION_MAJOR 1        /**< changes with the SONAME */
-#define ALMARA_VERSION_MINOR 0        /**< grows when functions or constants are added */
+#define ALMARA_VERSION_MINOR 1        /**< grows when functions or constants are added */
 #define ALMARA_VERSION_PATCH 0        /**< grows with any other release */
-#define ALMARA_VERSION_STRING "1.0.0" /**< MAJOR.MINOR.PATCH */
+#define ALMARA_VERSION_STRING "1.1.0" /**< MAJOR.MINOR.PATCH */
 
 /** Marks what the library exports. */
 #if defined(__GNUC__)

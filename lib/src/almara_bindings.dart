@@ -20,6 +20,298 @@ class AlmaraBindings {
     ffi.Pointer<T> Function<T extends ffi.NativeType>(String symbolName) lookup,
   ) : _lookup = lookup;
 
+  /// The calendar reckoned in one time for all years.
+  ///
+  /// @param minutes east of Greenwich, -1080 to 1080 (18 hours); any other value gives eAlmanacNone
+  int AlmanacCalendarAtOffset(int minutes) {
+    return _AlmanacCalendarAtOffset(minutes);
+  }
+
+  late final _AlmanacCalendarAtOffsetPtr =
+      _lookup<ffi.NativeFunction<EAlmanacCalendar Function(ffi.Int32)>>(
+        'AlmanacCalendarAtOffset',
+      );
+  late final _AlmanacCalendarAtOffset = _AlmanacCalendarAtOffsetPtr
+      .asFunction<int Function(int)>();
+
+  /// The calendar of a region's own country: Kor, Jpn and Vit have theirs, every other ::ELanguage and
+  /// every other int has China's.
+  int AlmanacCalendarOfLanguage(int language) {
+    return _AlmanacCalendarOfLanguage(language);
+  }
+
+  late final _AlmanacCalendarOfLanguagePtr =
+      _lookup<ffi.NativeFunction<EAlmanacCalendar Function(ELanguage)>>(
+        'AlmanacCalendarOfLanguage',
+      );
+  late final _AlmanacCalendarOfLanguage = _AlmanacCalendarOfLanguagePtr
+      .asFunction<int Function(int)>();
+
+  /// Days of a lunar month, 29 or 30.
+  ///
+  /// @param year 1900 to 2099, and 1899 for a month that reaches into 1900
+  /// @param month 1 to 12
+  /// @param leap 1 for the leap month of this number, 0 for the plain one
+  /// @return 0 for a month that there is not
+  int AlmanacDaysOfMonth(int calendar, int year, int month, int leap) {
+    return _AlmanacDaysOfMonth(calendar, year, month, leap);
+  }
+
+  late final _AlmanacDaysOfMonthPtr =
+      _lookup<
+        ffi.NativeFunction<
+          ffi.Int32 Function(EAlmanacCalendar, ffi.Int32, ffi.Int32, ffi.Int32)
+        >
+      >('AlmanacDaysOfMonth');
+  late final _AlmanacDaysOfMonth = _AlmanacDaysOfMonthPtr
+      .asFunction<int Function(int, int, int, int)>();
+
+  /// Days of a lunar year 1900 to 2099: 353 to 355, or 383 to 385 with a leap month; else 0.
+  int AlmanacDaysOfYear(int calendar, int year) {
+    return _AlmanacDaysOfYear(calendar, year);
+  }
+
+  late final _AlmanacDaysOfYearPtr =
+      _lookup<
+        ffi.NativeFunction<
+          ffi.Int32 Function(EAlmanacCalendar, ffi.Int32)
+        >
+      >('AlmanacDaysOfYear');
+  late final _AlmanacDaysOfYear = _AlmanacDaysOfYearPtr
+      .asFunction<int Function(int, int)>();
+
+  /// Lunar new year's day of a year 1900 to 2099, with its day of the week; else all zeroes.
+  CCalendarSolarDate AlmanacFirstDayOfYear(int calendar, int year) {
+    return _AlmanacFirstDayOfYear(calendar, year);
+  }
+
+  late final _AlmanacFirstDayOfYearPtr =
+      _lookup<
+        ffi.NativeFunction<
+          CCalendarSolarDate Function(EAlmanacCalendar, ffi.Int32)
+        >
+      >('AlmanacFirstDayOfYear');
+  late final _AlmanacFirstDayOfYear = _AlmanacFirstDayOfYearPtr
+      .asFunction<CCalendarSolarDate Function(int, int)>();
+
+  /// The month 1 to 12 that a lunar year 1900 to 2099 has twice, the second time as a leap month; 0
+  /// for a year without one and outside these years.
+  int AlmanacLeapMonth(int calendar, int year) {
+    return _AlmanacLeapMonth(calendar, year);
+  }
+
+  late final _AlmanacLeapMonthPtr =
+      _lookup<
+        ffi.NativeFunction<
+          ffi.Int32 Function(EAlmanacCalendar, ffi.Int32)
+        >
+      >('AlmanacLeapMonth');
+  late final _AlmanacLeapMonth = _AlmanacLeapMonthPtr
+      .asFunction<int Function(int, int)>();
+
+  /// The lunar date of a Gregorian date.
+  ///
+  /// @param date 1900-01-01 to 2099-12-31; its day of the week is not read
+  /// @return the lunar date, of the lunar years 1899 (its end) to 2099; all zeroes outside the span
+  /// and for a date that does not exist
+  ///
+  /// 2033-12-22 is {2033, 11, 1, 0, 1} in China, a leap month 11; 2024-02-10 is {2024, 1, 1, 0, 0}.
+  CCalendarLunarDate AlmanacLunarDate(int calendar, CCalendarSolarDate date) {
+    return _AlmanacLunarDate(calendar, date);
+  }
+
+  late final _AlmanacLunarDatePtr =
+      _lookup<
+        ffi.NativeFunction<
+          CCalendarLunarDate Function(EAlmanacCalendar, CCalendarSolarDate)
+        >
+      >('AlmanacLunarDate');
+  late final _AlmanacLunarDate = _AlmanacLunarDatePtr
+      .asFunction<CCalendarLunarDate Function(int, CCalendarSolarDate)>();
+
+  /// The lunar festival of a Gregorian date, by the rules of CheckFestivalLunarWithLang() and the
+  /// dates of AlmanacLunarDate().
+  ///
+  /// @param language ::ELanguage, whose festivals; the calendar need not be that region's
+  /// @param date 1900-01-01 to 2099-12-31; its day of the week is not read
+  /// @return ::EFestivalLunar; 0 for none, outside the span, and for a date that does not exist
+  int AlmanacLunarFestival(
+    int calendar,
+    int language,
+    CCalendarSolarDate date,
+  ) {
+    return _AlmanacLunarFestival(calendar, language, date);
+  }
+
+  late final _AlmanacLunarFestivalPtr =
+      _lookup<
+        ffi.NativeFunction<
+          EFestivalLunar Function(
+            EAlmanacCalendar,
+            ELanguage,
+            CCalendarSolarDate,
+          )
+        >
+      >('AlmanacLunarFestival');
+  late final _AlmanacLunarFestival = _AlmanacLunarFestivalPtr
+      .asFunction<int Function(int, int, CCalendarSolarDate)>();
+
+  /// Months of a lunar year 1900 to 2099: 12, or 13 with a leap month; else 0.
+  int AlmanacMonthsOfYear(int calendar, int year) {
+    return _AlmanacMonthsOfYear(calendar, year);
+  }
+
+  late final _AlmanacMonthsOfYearPtr =
+      _lookup<
+        ffi.NativeFunction<
+          ffi.Int32 Function(EAlmanacCalendar, ffi.Int32)
+        >
+      >('AlmanacMonthsOfYear');
+  late final _AlmanacMonthsOfYear = _AlmanacMonthsOfYearPtr
+      .asFunction<int Function(int, int)>();
+
+  /// The new moon that begins a lunar month; arguments as for AlmanacDaysOfMonth(). All zeroes for a
+  /// month that there is not. If its day is not certain, no day of the month is.
+  AlmanacInstant AlmanacNewMoonOfMonth(
+    int calendar,
+    int year,
+    int month,
+    int leap,
+  ) {
+    return _AlmanacNewMoonOfMonth(calendar, year, month, leap);
+  }
+
+  late final _AlmanacNewMoonOfMonthPtr =
+      _lookup<
+        ffi.NativeFunction<
+          AlmanacInstant Function(
+            EAlmanacCalendar,
+            ffi.Int32,
+            ffi.Int32,
+            ffi.Int32,
+          )
+        >
+      >('AlmanacNewMoonOfMonth');
+  late final _AlmanacNewMoonOfMonth = _AlmanacNewMoonOfMonthPtr
+      .asFunction<AlmanacInstant Function(int, int, int, int)>();
+
+  /// A new moon of a Gregorian year.
+  ///
+  /// @param year 1900 to 2099
+  /// @param index 0 for the first one of the year, to 11 or 12 for the last
+  /// @return all zeroes where the year has no such new moon
+  ///
+  /// The uncertainty is that of AlmanacTermInstant() with 6 seconds for the table.
+  AlmanacInstant AlmanacNewMoonOfYear(int calendar, int year, int index) {
+    return _AlmanacNewMoonOfYear(calendar, year, index);
+  }
+
+  late final _AlmanacNewMoonOfYearPtr =
+      _lookup<
+        ffi.NativeFunction<
+          AlmanacInstant Function(EAlmanacCalendar, ffi.Int32, ffi.Int32)
+        >
+      >('AlmanacNewMoonOfYear');
+  late final _AlmanacNewMoonOfYear = _AlmanacNewMoonOfYearPtr
+      .asFunction<AlmanacInstant Function(int, int, int)>();
+
+  /// The first anniversary of a lunar month and day on or after a Gregorian date.
+  ///
+  /// A date in a leap month falls in the leap month of the years that have the same one, and in the
+  /// plain month of the same number in the others. Day 30 falls on day 29 where the month is short.
+  /// The rules turn off either, so that such a year has no anniversary.
+  ///
+  /// @param date month 1 to 12, day 1 to 30, leap 0 or 1; `year` and `reserved` are not read
+  /// @param from 1900-01-01 to 2099-12-31; its day of the week is not read
+  /// @param rules ::EAlmanacAnniversary
+  /// @return the date with its day of the week. All zeroes where none follows to the end of 2099, and
+  ///     for arguments outside these ranges.
+  ///
+  /// To list more of them, ask again from the day after.
+  CCalendarSolarDate AlmanacNextAnniversary(
+    int calendar,
+    CCalendarLunarDate date,
+    CCalendarSolarDate from,
+    int rules,
+  ) {
+    return _AlmanacNextAnniversary(calendar, date, from, rules);
+  }
+
+  late final _AlmanacNextAnniversaryPtr =
+      _lookup<
+        ffi.NativeFunction<
+          CCalendarSolarDate Function(
+            EAlmanacCalendar,
+            CCalendarLunarDate,
+            CCalendarSolarDate,
+            EAlmanacAnniversary,
+          )
+        >
+      >('AlmanacNextAnniversary');
+  late final _AlmanacNextAnniversary = _AlmanacNextAnniversaryPtr
+      .asFunction<CCalendarSolarDate Function(int, CCalendarLunarDate, CCalendarSolarDate, int)>();
+
+  /// The Gregorian date of a lunar date: AlmanacLunarDate() turned around.
+  ///
+  /// @param date year, month 1 to 12, day 1 to 30, leap 0 or 1; `reserved` is not read
+  /// @return the date with its day of the week. All zeroes where there is no such day: day 30 of a
+  ///     short month, a leap month that the year lacks, a day outside 1900-01-01 to 2099-12-31.
+  CCalendarSolarDate AlmanacSolarDate(int calendar, CCalendarLunarDate date) {
+    return _AlmanacSolarDate(calendar, date);
+  }
+
+  late final _AlmanacSolarDatePtr =
+      _lookup<
+        ffi.NativeFunction<
+          CCalendarSolarDate Function(EAlmanacCalendar, CCalendarLunarDate)
+        >
+      >('AlmanacSolarDate');
+  late final _AlmanacSolarDate = _AlmanacSolarDatePtr
+      .asFunction<CCalendarSolarDate Function(int, CCalendarLunarDate)>();
+
+  /// The instant of a solar term.
+  ///
+  /// @param year 1900 to 2099
+  /// @param term ::ESolarKyureki24, 0 to 23
+  /// @return a date of that year; all zeroes outside these ranges
+  ///
+  /// The spring equinox (5) of 2084 is on 2084-03-20 at 00:00:29 in China, uncertain by 80 seconds and
+  /// so not certain.
+  ///
+  /// The uncertainty is 3 seconds for the table, 1 for what is measured of the Earth's rotation, and
+  /// from 2023 on three standard errors of its prognosis, rounded up: 365.25 * N * sqrt(N * 0.058 / 3
+  /// * (1 + N / 2500)) / 1000 seconds each, N being the years since 2022 (P. J. Huber's formula, given
+  /// by F. Espenak and J. Meeus in Five Millennium Canon of Solar Eclipses, NASA/TP-2006-214141).
+  AlmanacInstant AlmanacTermInstant(int calendar, int year, int term) {
+    return _AlmanacTermInstant(calendar, year, term);
+  }
+
+  late final _AlmanacTermInstantPtr =
+      _lookup<
+        ffi.NativeFunction<
+          AlmanacInstant Function(EAlmanacCalendar, ffi.Int32, ESolarKyureki24)
+        >
+      >('AlmanacTermInstant');
+  late final _AlmanacTermInstant = _AlmanacTermInstantPtr
+      .asFunction<AlmanacInstant Function(int, int, int)>();
+
+  /// The solar term that falls on a Gregorian date 1900-01-01 to 2099-12-31.
+  ///
+  /// @return ::ESolarKyureki24, 0 to 23; -1 for a date without a term, outside the span, or that does
+  ///     not exist
+  int AlmanacTermOfDate(int calendar, CCalendarSolarDate date) {
+    return _AlmanacTermOfDate(calendar, date);
+  }
+
+  late final _AlmanacTermOfDatePtr =
+      _lookup<
+        ffi.NativeFunction<
+          ESolarKyureki24 Function(EAlmanacCalendar, CCalendarSolarDate)
+        >
+      >('AlmanacTermOfDate');
+  late final _AlmanacTermOfDate = _AlmanacTermOfDatePtr
+      .asFunction<int Function(int, CCalendarSolarDate)>();
+
   /// Builds today's board under the options now in force. If the board's date already is today, a
   /// page direction left by GotoPreviousPage(), GotoNextPage() or GotoSpecifiedDate() stays in force,
   /// so that a page keeps its rows when an option changes.
@@ -657,6 +949,52 @@ class AlmaraBindings {
       .asFunction<int Function(int, int)>(isLeaf: true);
 }
 
+/// The instant of a new moon or a solar term, as the calendar's clocks show it. All zeroes stands
+/// for no answer. 40 bytes.
+final class AlmanacInstant extends ffi.Struct {
+  /// of the civil date, 1899 to 2100
+  @ffi.Int32()
+  external int year;
+
+  /// 1 to 12
+  @ffi.Int32()
+  external int month;
+
+  /// 1 to 31
+  @ffi.Int32()
+  external int day;
+
+  /// ::ECalendarWeek
+  @ffi.Int32()
+  external int dayOfWeek;
+
+  /// 0 to 23
+  @ffi.Int32()
+  external int hour;
+
+  /// 0 to 59
+  @ffi.Int32()
+  external int minute;
+
+  /// 0 to 59; the second within which it happens, not rounded
+  @ffi.Int32()
+  external int second;
+
+  /// seconds that these clocks are ahead of universal time (UT1, which is
+  /// within a second of UTC), -64800 to 64800
+  @ffi.Int32()
+  external int offset;
+
+  /// seconds by which the time may be wrong, at least 4
+  @ffi.Int32()
+  external int uncertainty;
+
+  /// 1 if the civil date is certain: midnight is farther away than the
+  /// uncertainty; else 0
+  @ffi.Int32()
+  external int certain;
+}
+
 /// A date of the lunisolar calendar. All zeroes stands for no answer. 20 bytes.
 final class CCalendarLunarDate extends ffi.Struct {
   /// the Gregorian year in which the lunar year began
@@ -698,6 +1036,17 @@ final class CCalendarSolarDate extends ffi.Struct {
   @ffi.Int32()
   external int dayOfWeek;
 }
+
+/// Rules of AlmanacNextAnniversary(): a sum of the values below. Other bits are not read; leave them
+/// 0.
+typedef EAlmanacAnniversary = ffi.Int32;
+typedef DartEAlmanacAnniversary = int;
+
+/// A calendar of the almanac: whose civil days count. Beside the values below there is one for each
+/// fixed difference from universal time, see AlmanacCalendarAtOffset(). For any other int every
+/// function gives "no answer".
+typedef EAlmanacCalendar = ffi.Int32;
+typedef DartEAlmanacCalendar = int;
 
 /// Day of the week, 0 = Sunday to 6 = Saturday.
 typedef ECalendarWeek = ffi.Int32;
@@ -783,11 +1132,39 @@ final class tagWeekNumberSpan extends ffi.Struct {
 
 const int ALMARA_VERSION_MAJOR = 1;
 
-const int ALMARA_VERSION_MINOR = 0;
+const int ALMARA_VERSION_MINOR = 1;
 
 const int ALMARA_VERSION_PATCH = 0;
 
-const String ALMARA_VERSION_STRING = '1.0.0';
+const String ALMARA_VERSION_STRING = '1.1.0';
+
+/// day 30: only where the month has 30 days, not on day 29
+/// of a short month
+const int eAlmanacAnniversaryDay30Only = 2;
+
+/// once in every lunar year
+const int eAlmanacAnniversaryEveryYear = 0;
+
+/// a date in a leap month: only in years that have this
+/// leap month, not in the plain month of the others
+const int eAlmanacAnniversaryLeapMonthOnly = 1;
+
+/// Beijing local mean time (116 degrees 25 minutes east, UTC+7:45:40) to
+/// 1928-12-31, UTC+8 from then on
+const int eAlmanacChina = 1;
+
+/// UTC+9. Japan publishes the terms; months are numbered by nobody there,
+/// and follow the rule of the others
+const int eAlmanacJapan = 4;
+
+/// as China to 1911-12-31, UTC+9 from then on
+const int eAlmanacKorea = 2;
+
+/// no calendar
+const int eAlmanacNone = 0;
+
+/// as China to 1967-12-31, UTC+7 from then on
+const int eAlmanacVietnam = 3;
 
 /// filler of a month interval (date 0, 0, 0), or a
 /// kept-back day, which only fills the first row (real date,

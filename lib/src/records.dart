@@ -20,8 +20,8 @@ LunarDate? lunarDateOf(CCalendarLunarDate date) => date.month == 0
         isLeapMonth: date.leap == 1,
       );
 
-CCalendarSolarDate solarRecordOf(AlmaraBindings bindings, CalendarDate date) =>
-    bindings.CreateSolarDate(
+CCalendarSolarDate solarRecordOf(AlmaraBindings library, CalendarDate date) =>
+    library.CreateSolarDate(
       int32(date.year, 'year'),
       int32(date.month, 'month'),
       int32(date.day, 'day'),

@@ -17,7 +17,8 @@ MAY_INCLUDE = {
     "lunar": {"date"},
     "festival": {"date"},
     "logic": {"date", "board", "lunar", "festival"},
-    "api": {"date", "board", "lunar", "festival", "logic"},
+    "almanac": {"date", "festival"},
+    "api": {"date", "board", "lunar", "festival", "logic", "almanac"},
     "plugin": set(),
 }
 

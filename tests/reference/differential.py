@@ -17,7 +17,6 @@ import random
 import sys
 
 from comparison import CHILD_FLAG, CLOCK_STEP, child_main, compare, set_clock
-from library import HEADERS
 
 ZONES = (
     "UTC",
@@ -213,23 +212,33 @@ class Generator:
         return ("CreateSolarDate", *values)
 
 
-def functions_of(section):
-    return [each for each in HEADERS.functions.values() if each.section == section]
-
-
-NAVIGATION = [each.name for each in functions_of("Building and navigating")]
+NAVIGATION = (
+    "InitCalendarLogicDt",
+    "Build",
+    "GotoToday",
+    "GotoPreviousPage",
+    "GotoNextPage",
+    "GotoSpecifiedDate",
+    "GotoTodayOffset",
+)
 BOARD_COUNTS = ("GetContentRows", "GetContentColumns", "GetWeekNumberCount")
-BOARD_GETTERS = [
-    each.name
-    for each in functions_of("Reading the board")
-    if not each.parameters and each.name not in BOARD_COUNTS
-]
-OPTION_GETTERS = [each.name for each in functions_of("Options") if not each.parameters]
+GETTERS = (
+    "GetDispMonth",
+    "GetMaxRow",
+    "GetPassedWeeks",
+    "GetStartDayOfWeek",
+    "GetStartWeekNumber",
+    "GetHideBreakDay",
+    "GetShowMonthInterval",
+    "GetShowBreakDayOfWeek",
+    "GetWeekNumberCalcType",
+    "GetConfigKey",
+)
 
 
 def option_queries():
     """Everything that can be asked about the options."""
-    yield from ((name,) for name in OPTION_GETTERS)
+    yield from ((name,) for name in GETTERS)
     yield from (("IsBreakDayOfWeek", day) for day in range(-2, 9))
 
 
@@ -244,7 +253,9 @@ def board_queries(rows, columns, spans):
         yield ("GetCalendarWeekByColumns", index)
     yield from (("GetCalendarWeekByColumns", column) for column in range(-2, 9))
     yield from (("GetWeekNumberItemWithIndex", index) for index in range(-1, spans + 2))
-    yield from ((name,) for name in BOARD_GETTERS)
+    yield ("GetContentDate",)
+    yield ("GetToday",)
+    yield ("IsTodayInBoard",)
 
 
 def run_steps(task, recorder):
