@@ -20,6 +20,7 @@
 /// and name C functions.
 library;
 
+export 'src/almanac.dart';
 export 'src/board.dart' show Board, BoardCell, CellKindGroups, WeekSpan;
 export 'src/codes.dart';
 export 'src/dates.dart';

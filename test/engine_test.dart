@@ -10,6 +10,9 @@ import 'package:test/test.dart';
 void main() {
   // The stand-alone library; a bundle exists in an application only.
   final path = Platform.environment['ALMARA_LIBRARY'];
+  final skip = path == null
+      ? 'ALMARA_LIBRARY does not name libalmara.so.1'
+      : false;
 
   group('engine', () {
     late AlmaraEngine engine;
@@ -146,7 +149,68 @@ void main() {
         throwsArgumentError,
       );
     });
-  }, skip: path == null ? 'ALMARA_LIBRARY does not name libalmara.so.1' : false);
+  }, skip: skip);
+
+  group('almanac', () {
+    late Almanac almanac;
+    setUp(() => almanac = Almanac.open(path!));
+
+    test('has the published dates, in both directions', () {
+      const date = CalendarDate(2033, 12, 22);
+      const lunar = LunarDate(2033, 11, 1, isLeapMonth: true);
+      expect(almanac.lunarDate(AlmanacCalendar.china, date), lunar);
+      expect(almanac.solarDate(AlmanacCalendar.china, lunar), date);
+      expect(
+        almanac.lunarDate(
+          AlmanacCalendar.china,
+          const CalendarDate(2023, 2, 30),
+        ),
+        isNull,
+      );
+      expect(almanac.leapMonth(AlmanacCalendar.china, 2033), 11);
+      expect(almanac.leapMonth(AlmanacCalendar.china, 2024), 0);
+      expect(almanac.monthsOfYear(AlmanacCalendar.china, 2033), 13);
+      expect(
+        almanac.firstDayOfYear(AlmanacCalendar.china, 2024),
+        const CalendarDate(2024, 2, 10),
+      );
+    });
+
+    test('finds anniversaries', () {
+      expect(
+        almanac.nextAnniversary(
+          AlmanacCalendar.korea,
+          const LunarDate(0, 8, 15),
+          from: const CalendarDate(2026, 1, 1),
+        ),
+        const CalendarDate(2026, 9, 25),
+      );
+    });
+
+    test('times the terms', () {
+      final time = almanac.termTime(
+        AlmanacCalendar.china,
+        2084,
+        SolarTerm.springEquinox,
+      );
+      expect(time?.date, const CalendarDate(2084, 3, 20));
+      expect(time?.clock, DateTime.utc(2084, 3, 20, 0, 0, 29));
+      expect(time?.utc, DateTime.utc(2084, 3, 19, 16, 0, 29));
+      expect(time?.uncertainty, const Duration(seconds: 80));
+      expect(time?.isDateCertain, isFalse);
+    });
+
+    test('has calendars for regions and for offsets', () {
+      expect(almanac.calendarOf(Region.kor), AlmanacCalendar.korea);
+      expect(almanac.calendarOf(Region.usa), AlmanacCalendar.china);
+      expect(almanac.calendarAtOffset(const Duration(hours: 19)), isNull);
+      final calendar = almanac.calendarAtOffset(const Duration(hours: 8));
+      expect(
+        almanac.termOf(calendar!, const CalendarDate(2024, 6, 21)),
+        SolarTerm.summerSolstice,
+      );
+    });
+  }, skip: skip);
 
   test('codes that nobody knows read as unknown', () {
     expect(Weekday.fromCode(7), Weekday.unknown);
@@ -169,6 +233,7 @@ void main() {
     expect(date.compareTo(const CalendarDate(2024, 3, 1)), isNegative);
     expect(date.toUtc().isUtc, isTrue);
     expect('$date', '2024-02-29');
-    expect('${const LunarDate(2023, 2, 1, isLeapMonth: true)}', '2023-leap 2-1');
+    const lunar = LunarDate(2023, 2, 1, isLeapMonth: true);
+    expect('$lunar', '2023-leap 2-1');
   });
 }

@@ -32,7 +32,7 @@ class AlmaraBindings {
         'AlmanacCalendarAtOffset',
       );
   late final _AlmanacCalendarAtOffset = _AlmanacCalendarAtOffsetPtr
-      .asFunction<int Function(int)>();
+      .asFunction<int Function(int)>(isLeaf: true);
 
   /// The calendar of a region's own country: Kor, Jpn and Vit have theirs, every other ::ELanguage and
   /// every other int has China's.
@@ -45,7 +45,7 @@ class AlmaraBindings {
         'AlmanacCalendarOfLanguage',
       );
   late final _AlmanacCalendarOfLanguage = _AlmanacCalendarOfLanguagePtr
-      .asFunction<int Function(int)>();
+      .asFunction<int Function(int)>(isLeaf: true);
 
   /// Days of a lunar month, 29 or 30.
   ///
@@ -64,7 +64,7 @@ class AlmaraBindings {
         >
       >('AlmanacDaysOfMonth');
   late final _AlmanacDaysOfMonth = _AlmanacDaysOfMonthPtr
-      .asFunction<int Function(int, int, int, int)>();
+      .asFunction<int Function(int, int, int, int)>(isLeaf: true);
 
   /// Days of a lunar year 1900 to 2099: 353 to 355, or 383 to 385 with a leap month; else 0.
   int AlmanacDaysOfYear(int calendar, int year) {
@@ -78,7 +78,7 @@ class AlmaraBindings {
         >
       >('AlmanacDaysOfYear');
   late final _AlmanacDaysOfYear = _AlmanacDaysOfYearPtr
-      .asFunction<int Function(int, int)>();
+      .asFunction<int Function(int, int)>(isLeaf: true);
 
   /// Lunar new year's day of a year 1900 to 2099, with its day of the week; else all zeroes.
   CCalendarSolarDate AlmanacFirstDayOfYear(int calendar, int year) {
@@ -92,7 +92,7 @@ class AlmaraBindings {
         >
       >('AlmanacFirstDayOfYear');
   late final _AlmanacFirstDayOfYear = _AlmanacFirstDayOfYearPtr
-      .asFunction<CCalendarSolarDate Function(int, int)>();
+      .asFunction<CCalendarSolarDate Function(int, int)>(isLeaf: true);
 
   /// The month 1 to 12 that a lunar year 1900 to 2099 has twice, the second time as a leap month; 0
   /// for a year without one and outside these years.
@@ -107,7 +107,7 @@ class AlmaraBindings {
         >
       >('AlmanacLeapMonth');
   late final _AlmanacLeapMonth = _AlmanacLeapMonthPtr
-      .asFunction<int Function(int, int)>();
+      .asFunction<int Function(int, int)>(isLeaf: true);
 
   /// The lunar date of a Gregorian date.
   ///
@@ -127,7 +127,7 @@ class AlmaraBindings {
         >
       >('AlmanacLunarDate');
   late final _AlmanacLunarDate = _AlmanacLunarDatePtr
-      .asFunction<CCalendarLunarDate Function(int, CCalendarSolarDate)>();
+      .asFunction<CCalendarLunarDate Function(int, CCalendarSolarDate)>(isLeaf: true);
 
   /// The lunar festival of a Gregorian date, by the rules of CheckFestivalLunarWithLang() and the
   /// dates of AlmanacLunarDate().
@@ -154,7 +154,7 @@ class AlmaraBindings {
         >
       >('AlmanacLunarFestival');
   late final _AlmanacLunarFestival = _AlmanacLunarFestivalPtr
-      .asFunction<int Function(int, int, CCalendarSolarDate)>();
+      .asFunction<int Function(int, int, CCalendarSolarDate)>(isLeaf: true);
 
   /// Months of a lunar year 1900 to 2099: 12, or 13 with a leap month; else 0.
   int AlmanacMonthsOfYear(int calendar, int year) {
@@ -168,7 +168,7 @@ class AlmaraBindings {
         >
       >('AlmanacMonthsOfYear');
   late final _AlmanacMonthsOfYear = _AlmanacMonthsOfYearPtr
-      .asFunction<int Function(int, int)>();
+      .asFunction<int Function(int, int)>(isLeaf: true);
 
   /// The new moon that begins a lunar month; arguments as for AlmanacDaysOfMonth(). All zeroes for a
   /// month that there is not. If its day is not certain, no day of the month is.
@@ -193,7 +193,7 @@ class AlmaraBindings {
         >
       >('AlmanacNewMoonOfMonth');
   late final _AlmanacNewMoonOfMonth = _AlmanacNewMoonOfMonthPtr
-      .asFunction<AlmanacInstant Function(int, int, int, int)>();
+      .asFunction<AlmanacInstant Function(int, int, int, int)>(isLeaf: true);
 
   /// A new moon of a Gregorian year.
   ///
@@ -213,7 +213,7 @@ class AlmaraBindings {
         >
       >('AlmanacNewMoonOfYear');
   late final _AlmanacNewMoonOfYear = _AlmanacNewMoonOfYearPtr
-      .asFunction<AlmanacInstant Function(int, int, int)>();
+      .asFunction<AlmanacInstant Function(int, int, int)>(isLeaf: true);
 
   /// The first anniversary of a lunar month and day on or after a Gregorian date.
   ///
@@ -249,7 +249,7 @@ class AlmaraBindings {
         >
       >('AlmanacNextAnniversary');
   late final _AlmanacNextAnniversary = _AlmanacNextAnniversaryPtr
-      .asFunction<CCalendarSolarDate Function(int, CCalendarLunarDate, CCalendarSolarDate, int)>();
+      .asFunction<CCalendarSolarDate Function(int, CCalendarLunarDate, CCalendarSolarDate, int)>(isLeaf: true);
 
   /// The Gregorian date of a lunar date: AlmanacLunarDate() turned around.
   ///
@@ -267,7 +267,7 @@ class AlmaraBindings {
         >
       >('AlmanacSolarDate');
   late final _AlmanacSolarDate = _AlmanacSolarDatePtr
-      .asFunction<CCalendarSolarDate Function(int, CCalendarLunarDate)>();
+      .asFunction<CCalendarSolarDate Function(int, CCalendarLunarDate)>(isLeaf: true);
 
   /// The instant of a solar term.
   ///
@@ -293,7 +293,7 @@ class AlmaraBindings {
         >
       >('AlmanacTermInstant');
   late final _AlmanacTermInstant = _AlmanacTermInstantPtr
-      .asFunction<AlmanacInstant Function(int, int, int)>();
+      .asFunction<AlmanacInstant Function(int, int, int)>(isLeaf: true);
 
   /// The solar term that falls on a Gregorian date 1900-01-01 to 2099-12-31.
   ///
@@ -310,7 +310,7 @@ class AlmaraBindings {
         >
       >('AlmanacTermOfDate');
   late final _AlmanacTermOfDate = _AlmanacTermOfDatePtr
-      .asFunction<int Function(int, CCalendarSolarDate)>();
+      .asFunction<int Function(int, CCalendarSolarDate)>(isLeaf: true);
 
   /// Builds today's board under the options now in force. If the board's date already is today, a
   /// page direction left by GotoPreviousPage(), GotoNextPage() or GotoSpecifiedDate() stays in force,

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+import 'dart:ffi';
+
 import 'almara_bindings.dart';
 import 'dates.dart';
 
@@ -27,6 +29,13 @@ CCalendarSolarDate solarRecordOf(AlmaraBindings library, CalendarDate date) =>
       int32(date.day, 'day'),
       0,
     );
+
+CCalendarLunarDate lunarRecordOf(LunarDate date) =>
+    Struct.create<CCalendarLunarDate>()
+      ..year = int32(date.year, 'year')
+      ..month = int32(date.month, 'month')
+      ..day = int32(date.day, 'day')
+      ..leap = date.isLeapMonth ? 1 : 0;
 
 /// The value, which the bridge would cut off if it did not fit in 32 bits.
 int int32(int value, String name) =>

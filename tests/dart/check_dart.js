@@ -19,7 +19,7 @@ const receivers = {
     cell: 'tagCalendarCell', span: 'tagWeekNumberSpan',
   },
   application: {
-    engine: 'AlmaraEngine', board: 'Board', _board: 'Board', cell: 'BoardCell', week: 'WeekSpan',
+    engine: 'AlmaraEngine', almanac: 'Almanac', board: 'Board', _board: 'Board', cell: 'BoardCell', week: 'WeekSpan',
     notes: 'DayNotes', date: 'CalendarDate', lunar: 'LunarDate', kind: 'CellKind',
   },
 };
