@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "../../tests/support/civil.h"
 #include "support/check.h"
+#include "support/civil.h"
 #include "support/input.h"
 
 namespace {

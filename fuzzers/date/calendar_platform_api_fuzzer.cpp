@@ -8,10 +8,10 @@
 #include <cstdlib>
 #include <ctime>
 
-#include "../../tests/support/civil.h"
-#include "../../tests/support/zone.h"
 #include "support/check.h"
+#include "support/civil.h"
 #include "support/input.h"
+#include "support/zone.h"
 
 namespace {
 

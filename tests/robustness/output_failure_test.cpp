@@ -41,7 +41,7 @@ std::uint32_t SumOfBoards() {
   return sum;
 }
 
-// Runs SumOfBoards() in a process of its own, behind redirect(), and hands its result back.
+// Runs SumOfBoards() in a process of its own, after redirect(), and hands its result back.
 template <typename Redirect>
 testing::AssertionResult SumBehind(Redirect redirect, std::uint32_t& sum) {
   int ends[2];

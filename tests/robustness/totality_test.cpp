@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
+#include <ctime>
 #include <functional>
 #include <limits>
 #include <ostream>
@@ -18,48 +18,24 @@
 
 #include "api/raw_bool_setters.h"
 #include "robustness/failures_to_stderr.h"
+#include "support/exported_board.h"
+
+namespace almara::test {
 
 namespace {
 
 constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
 
-constexpr std::int32_t kExtremes[] = {kLowest,
-                                      kLowest + 1,
-                                      kLowest + 7,
-                                      -306783379,
-                                      -65536,
-                                      -2100,
-                                      -13,
-                                      -8,
-                                      -7,
-                                      -1,
-                                      0,
-                                      1,
-                                      2,
-                                      3,
-                                      4,
-                                      6,
-                                      7,
-                                      8,
-                                      12,
-                                      13,
-                                      28,
-                                      31,
-                                      32,
-                                      50,
-                                      51,
-                                      1900,
-                                      2024,
-                                      2099,
-                                      2100,
-                                      65536,
-                                      306783379,
-                                      kHighest - 7,
-                                      kHighest - 1,
-                                      kHighest};
-constexpr std::int32_t kYears[] = {kLowest, -4713, -1,   0,    1,       1799,     1800,    1899,
-                                   1900,    2024,  2099, 2100, 5870000, 99999999, kHighest};
+// clang-format off
+constexpr std::int32_t kExtremes[] = {
+    kLowest, kLowest + 1, kLowest + 7, -306783379, -65536, -2100, -13, -8, -7, -1, 0, 1, 2, 3, 4, 6,
+    7, 8, 12, 13, 28, 31, 32, 50, 51, 1900, 2024, 2099, 2100, 65536, 306783379, kHighest - 7,
+    kHighest - 1, kHighest};
+constexpr std::int32_t kYears[] = {
+    kLowest, -70202147, -5879488, -1200000, -400000, -4713, -1, 0, 1, 31, 1582, 1799, 1800, 1899,
+    1900, 2024, 2099, 2100, 400000, 1200000, 5870000, 70202147, 99999999, kHighest};
+// clang-format on
 constexpr std::int32_t kMonths[] = {kLowest, -1, 0, 1, 2, 12, 13, kHighest};
 constexpr std::int32_t kDays[] = {kLowest, -1, 0, 1, 28, 29, 31, 32, kHighest};
 constexpr std::int32_t kLanguages[] = {kLowest, 0, 1, 2, 3, 4, 7, 9, 11, kHighest};
@@ -78,6 +54,21 @@ std::vector<CCalendarSolarDate> Dates() {
   return dates;
 }
 
+// Runs call() and tells if it took more than a second of this thread. The searches of dates far
+// away are the slowest calls; they take milliseconds.
+template <typename Call>
+auto Soon(Call call) {
+  const auto seconds = [] {
+    std::timespec used{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &used);
+    return static_cast<double>(used.tv_sec) + static_cast<double>(used.tv_nsec) * 1e-9;
+  };
+  const double start = seconds();
+  auto answer = call();
+  EXPECT_LT(seconds() - start, 1);
+  return answer;
+}
+
 bool IsBuildable(const CCalendarSolarDate& date) {
   return date.year >= 1900 && date.year <= 2099 && date.month >= 1 && date.month <= 12 &&
          date.day >= 1 && date.day <= 31;
@@ -93,29 +84,10 @@ class Totality : public testing::Test {
 
   // Reads everything there is to read, and asks for what there is not.
   static void ExpectSoundBoard(const std::string& when) {
-    const std::int32_t rows = GetContentRows();
-    const std::int32_t columns = GetContentColumns();
-    ASSERT_TRUE(rows >= 0 && rows <= 50) << when;
-    ASSERT_TRUE(columns >= 0 && columns <= 7) << when;
-    for (std::int32_t row = 0; row < rows; ++row) {
-      for (std::int32_t column = 0; column < columns; ++column) {
-        const tagCalendarCell cell = GetContentItem(row, column);
-        ASSERT_TRUE(cell.type >= 1 && cell.type <= 7) << when;
-        ASSERT_TRUE(cell.row >= row && cell.column >= column && cell.column < 7) << when;
-      }
-    }
-    std::int32_t spanned = 0;
-    for (std::int32_t i = 0; i < GetWeekNumberCount(); ++i) {
-      spanned += GetWeekNumberItemWithIndex(i).rows;
-    }
-    ASSERT_EQ(spanned, rows) << when;
-    IsTodayInBoard();
-    GetContentDate();
-    EXPECT_EQ(GetWeekNumberItemWithIndex(GetWeekNumberCount()).rows, 0) << when;
-    for (std::int32_t column = 0; column < 7; ++column) {
-      const ECalendarWeek heading = GetCalendarWeekByColumns(column);
-      ASSERT_TRUE(heading >= -6 && heading <= 6) << when;
-    }
+    const ShownBoard board = ReadExportedBoard();
+    ASSERT_STREQ(FirstBroken(board), nullptr) << when;
+    ASSERT_STREQ(BrokenHeadings(board, GetDispMonth(), GetStartDayOfWeek()), nullptr) << when;
+    ASSERT_STREQ(BrokenOutside(board), nullptr) << when;
   }
 
   static void NavigateEverywhere(const std::string& when) {
@@ -270,14 +242,14 @@ TEST_F(Totality, EveryByteOfABoolCountsByItsLowestBit) {
   for (int byte = 0; byte < 256; ++byte) {
     const auto flag = static_cast<std::uint8_t>(byte);
     const bool isSet = byte % 2 == 1;
-    almara::test::RawSetHideBreakDay(flag);
+    RawSetHideBreakDay(flag);
     EXPECT_EQ(GetHideBreakDay(), isSet);
     EXPECT_EQ(GetShowMonthInterval(), isSet) << "answers for the other flag";
-    almara::test::RawSetShowBreakDayOfWeek(flag);
+    RawSetShowBreakDayOfWeek(flag);
     EXPECT_EQ(GetShowBreakDayOfWeek(), isSet);
-    almara::test::RawSetShowMonthInterval(flag);
+    RawSetShowMonthInterval(flag);
     for (const std::int32_t day : kExtremes) {
-      almara::test::RawSetBreakDayOfWeek(day, flag);
+      RawSetBreakDayOfWeek(day, flag);
       EXPECT_EQ(IsBreakDayOfWeek(day), isSet && day >= 0 && day <= 6);
     }
   }
@@ -296,6 +268,15 @@ TEST_F(Totality, BoolSettersOfTheHeader) {
   }
 }
 
+void ExpectSolarFestival(EFestivalSolar festival) {
+  EXPECT_TRUE(festival == eFestivalSolarNone || (festival >= 1000 && festival <= 6002)) << festival;
+}
+
+void ExpectLunarFestival(EFestivalLunar festival) {
+  EXPECT_TRUE(festival == eFestivalLunarNone || (festival >= 20000 && festival <= 20012))
+      << festival;
+}
+
 class LookupTotality : public Totality {
  protected:
   void SetUp() override {
@@ -306,9 +287,8 @@ class LookupTotality : public Totality {
 
 TEST_F(LookupTotality, LunarDates) {
   for (const CCalendarSolarDate& date : Dates()) {
-    const CCalendarLunarDate lunar = ConverterLunarWithDate(date);
-    const CCalendarLunarDate again = ConverterLunarWithDate(date);
-    ASSERT_EQ(std::memcmp(&lunar, &again, sizeof lunar), 0);
+    const CCalendarLunarDate lunar = Soon([&] { return ConverterLunarWithDate(date); });
+    ASSERT_TRUE(SameBytes(lunar, ConverterLunarWithDate(date)));
     ASSERT_TRUE(lunar.reserved == 0 && (lunar.leap == 0 || lunar.leap == 1));
     if (IsBuildable(date)) {
       ASSERT_TRUE(lunar.month >= 1 && lunar.month <= 12 && lunar.day >= 1 && lunar.day <= 30);
@@ -318,7 +298,7 @@ TEST_F(LookupTotality, LunarDates) {
 
 TEST_F(LookupTotality, SolarTerms) {
   for (const CCalendarSolarDate& date : Dates()) {
-    const ESolarKyureki24 term = Check24SekkiWithDate(date);
+    const ESolarKyureki24 term = Soon([&] { return Check24SekkiWithDate(date); });
     ASSERT_TRUE(term >= -1 && term <= 23);
     ASSERT_TRUE(term == -1 || (date.year >= 1800 && date.year <= 2099));
   }
@@ -327,8 +307,7 @@ TEST_F(LookupTotality, SolarTerms) {
 TEST_F(LookupTotality, SolarFestivals) {
   for (const std::int32_t language : kLanguages) {
     for (const CCalendarSolarDate& date : Dates()) {
-      const EFestivalSolar festival = CheckFestivalSolarWithLang(language, date);
-      ASSERT_TRUE(festival == 0 || (festival >= 1000 && festival <= 6002));
+      ExpectSolarFestival(Soon([&] { return CheckFestivalSolarWithLang(language, date); }));
     }
   }
 }
@@ -336,8 +315,7 @@ TEST_F(LookupTotality, SolarFestivals) {
 TEST_F(LookupTotality, LunarFestivals) {
   for (const std::int32_t language : kLanguages) {
     for (const CCalendarSolarDate& date : Dates()) {
-      const EFestivalLunar festival = CheckFestivalLunarWithLang(language, date);
-      ASSERT_TRUE(festival == 0 || (festival >= 20000 && festival <= 20012));
+      ExpectLunarFestival(Soon([&] { return CheckFestivalLunarWithLang(language, date); }));
     }
   }
 }
@@ -349,9 +327,11 @@ TEST_F(Totality, LookupsBeforeTheFirstBuild) {
     ASSERT_TRUE(lunar.leap == 0 || lunar.leap == 1);
     const ESolarKyureki24 term = Check24SekkiWithDate(date);
     ASSERT_TRUE(term >= -1 && term <= 23);
-    CheckFestivalSolarWithLang(eLanguageUsa, date);
-    CheckFestivalLunarWithLang(eLanguageVit, date);
+    ExpectSolarFestival(CheckFestivalSolarWithLang(eLanguageUsa, date));
+    ExpectLunarFestival(CheckFestivalLunarWithLang(eLanguageVit, date));
   }
 }
 
 }  // namespace
+
+}  // namespace almara::test
