@@ -24,6 +24,10 @@ namespace {
 constexpr int kSecondsPerDay = 86400;
 constexpr int kUnixDayOf1900 = -25567;
 
+constexpr int kPlain = static_cast<int>(PageDirection::kNone);
+constexpr int kBackward = static_cast<int>(PageDirection::kBackward);
+constexpr int kForward = static_cast<int>(PageDirection::kForward);
+
 // Options and circumstances of one board.
 struct Request {
   int mode, direction, start;
@@ -126,7 +130,7 @@ class Checker {
       case eDispMonthRollingWeeks:
         return m_request.rows;
       case eDispMonthRollingTail:
-        return m_request.direction != ePageDirectionNone
+        return m_request.direction != kPlain
                    ? 0
                    : std::max(m_request.rows, (ColumnOf(first) + m_request.focus.day + 6) / 7);
       case eDispMonthWholeMonth:
@@ -246,22 +250,21 @@ class Checker {
   // Where the focus stands; with bands in front of it only the row is known.
   void CheckFocus() const {
     const Request& r = m_request;
-    const bool plain = r.direction == ePageDirectionNone;
+    const bool plain = r.direction == kPlain;
     if (m_cells.empty()) {
       return;
     }
     if (IsStrip()) {
       const int middle = r.columns / 2 + r.columns % 2 - 1;
-      ExpectFocusAt(plain ? middle : r.direction == ePageDirectionBackward ? r.columns - 1 : 0);
-    } else if (r.mode == eDispMonthWholeMonth &&
-               !(r.interval && r.direction == ePageDirectionBackward)) {
+      ExpectFocusAt(plain ? middle : r.direction == kBackward ? r.columns - 1 : 0);
+    } else if (r.mode == eDispMonthWholeMonth && !(r.interval && r.direction == kBackward)) {
       ExpectMonthFrom(ColumnOf({r.focus.year, r.focus.month, 1}),
                       DaysOfMonth(r.focus.year, r.focus.month));
     } else if (r.mode == eDispMonthRollingTail) {
       ExpectMonthFrom(ColumnOf({r.focus.year, r.focus.month, 1}), r.focus.day);
-    } else if (r.mode == eDispMonthRollingWeeks && r.direction == ePageDirectionBackward) {
+    } else if (r.mode == eDispMonthRollingWeeks && r.direction == kBackward) {
       ExpectFocusAt(7 * (r.rows - 1) + ColumnOf(r.focus));
-    } else if (r.mode == eDispMonthRollingWeeks && r.direction == ePageDirectionForward) {
+    } else if (r.mode == eDispMonthRollingWeeks && r.direction == kForward) {
       ExpectFocusAt(ColumnOf(r.focus));
     } else if (r.mode == eDispMonthRollingWeeks && !r.interval && r.passed < r.rows) {
       ExpectFocusAt(7 * r.passed + ColumnOf(r.focus));
@@ -383,7 +386,7 @@ void Build(Board& board, const Request& r) {
   board.SetWeekNumberCalcType(r.weekRule);
   board.SetShowBreakDayOfWeek(r.showBreakDays);
   board.BuildQuietly(r.focus.year, r.focus.month, r.focus.day,
-                     static_cast<almara::PageDirection>(r.direction));
+                     static_cast<PageDirection>(r.direction));
 }
 
 // Options that change from day to day, so that all meet all weekdays and places in the month.
@@ -417,7 +420,7 @@ std::string NameOf(const testing::TestParamInfo<std::tuple<int, bool, int>>& inf
 
 INSTANTIATE_TEST_SUITE_P(EveryDay, BoardSweep,
                          testing::Combine(testing::Values(1, 2, 3, 4), testing::Bool(),
-                                          testing::Values(0, 1, 2)),
+                                          testing::Values(kPlain, kBackward, kForward)),
                          NameOf);
 
 TEST_P(BoardSweep, HoldsWhatHoldsForEveryBoard) {
