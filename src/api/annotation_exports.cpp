@@ -20,18 +20,15 @@ CCalendarLunarDate ConverterLunarWithDate(CCalendarSolarDate date) {
 }
 
 ESolarKyureki24 Check24SekkiWithDate(CCalendarSolarDate date) {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->Check24Sekki(WithoutDayOfWeek(date))
-                                     : eSekkiNone;
+  return almara::Ask(&CCalendarLogic::Check24Sekki, eSekkiNone, WithoutDayOfWeek(date));
 }
 
 EFestivalSolar CheckFestivalSolarWithLang(ELanguage language, CCalendarSolarDate date) {
-  return g_pCalendarLogic != nullptr
-             ? g_pCalendarLogic->CheckFestivalSolar(language, WithoutDayOfWeek(date))
-             : eFestivalSolarNone;
+  return almara::Ask(&CCalendarLogic::CheckFestivalSolar, eFestivalSolarNone, language,
+                     WithoutDayOfWeek(date));
 }
 
 EFestivalLunar CheckFestivalLunarWithLang(ELanguage language, CCalendarSolarDate date) {
-  return g_pCalendarLogic != nullptr
-             ? g_pCalendarLogic->CheckFestivalLunar(language, WithoutDayOfWeek(date))
-             : eFestivalLunarNone;
+  return almara::Ask(&CCalendarLogic::CheckFestivalLunar, eFestivalLunarNone, language,
+                     WithoutDayOfWeek(date));
 }

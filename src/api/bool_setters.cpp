@@ -18,25 +18,17 @@ bool LowestBit(std::uint8_t flag) { return (flag & 1U) != 0; }
 }  // namespace
 
 ALMARA_EXPORT void SetHideBreakDay(std::uint8_t hide) {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->SetHideBreakDay(LowestBit(hide));
-  }
+  almara::Tell(&CCalendarLogic::SetHideBreakDay, LowestBit(hide));
 }
 
 ALMARA_EXPORT void SetShowMonthInterval(std::uint8_t show) {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->SetShowMonthInterval(LowestBit(show));
-  }
+  almara::Tell(&CCalendarLogic::SetShowMonthInterval, LowestBit(show));
 }
 
 ALMARA_EXPORT void SetShowBreakDayOfWeek(std::uint8_t show) {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->SetShowBreakDayOfWeek(LowestBit(show));
-  }
+  almara::Tell(&CCalendarLogic::SetShowBreakDayOfWeek, LowestBit(show));
 }
 
 ALMARA_EXPORT void SetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak) {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->SetBreakDayOfWeek(dayOfWeek, LowestBit(isBreak));
-  }
+  almara::Tell(&CCalendarLogic::SetBreakDayOfWeek, dayOfWeek, LowestBit(isBreak));
 }

@@ -11,6 +11,9 @@
 #include "api/engine.h"
 #include "date/int32.h"
 
+using almara::Ask;
+using almara::Tell;
+
 std::int32_t native_add(std::int32_t a, std::int32_t b) { return almara::WrapAdd(a, b); }
 
 CCalendarSolarDate CreateSolarDate(std::int32_t year, std::int32_t month, std::int32_t day,
@@ -19,54 +22,26 @@ CCalendarSolarDate CreateSolarDate(std::int32_t year, std::int32_t month, std::i
 }
 
 void InitCalendarLogicDt(std::int32_t language) {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->InitCalendarLogic(language);
-  }
+  Tell(&CCalendarLogic::InitCalendarLogic, language);
 }
 
-void Build() {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->Build();
-  }
-}
+void Build() { Tell(&CCalendarLogic::Build); }
 
-void GotoToday() {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->GotoToday();
-  }
-}
+void GotoToday() { Tell(&CCalendarLogic::GotoToday); }
 
-void GotoPreviousPage() {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->GotoPreviousPage();
-  }
-}
+void GotoPreviousPage() { Tell(&CCalendarLogic::GotoPreviousPage); }
 
-void GotoNextPage() {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->GotoNextPage();
-  }
-}
+void GotoNextPage() { Tell(&CCalendarLogic::GotoNextPage); }
 
 void GotoSpecifiedDate(std::int32_t year, std::int32_t month, std::int32_t day) {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->GotoSpecifiedDate(year, month, day);
-  }
+  Tell(&CCalendarLogic::GotoSpecifiedDate, year, month, day);
 }
 
-void GotoTodayOffset(std::int32_t offset) {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->GotoTodayOffsetMonth(offset);
-  }
-}
+void GotoTodayOffset(std::int32_t offset) { Tell(&CCalendarLogic::GotoTodayOffsetMonth, offset); }
 
-std::int32_t GetContentRows() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->GetContentRows() : 0;
-}
+std::int32_t GetContentRows() { return Ask(&CCalendarLogic::GetContentRows, 0); }
 
-std::int32_t GetContentColumns() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->GetContentColumns() : 0;
-}
+std::int32_t GetContentColumns() { return Ask(&CCalendarLogic::GetContentColumns, 0); }
 
 // The engine exists once loading has succeeded; there is no fallback for a cell.
 tagCalendarCell GetContentItem(std::int32_t row, std::int32_t column) {
@@ -77,110 +52,63 @@ tagCalendarCell GetContentItem(std::int32_t row, std::int32_t column) {
 }
 
 ECalendarWeek GetCalendarWeekByColumns(std::int32_t column) {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->GetCalendarWeekByColumns(column)
-                                     : eCalendarWeekMonday;
+  return Ask(&CCalendarLogic::GetCalendarWeekByColumns, eCalendarWeekMonday, column);
 }
 
-std::int32_t GetWeekNumberCount() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->GetWeekNumberCount() : 0;
-}
+std::int32_t GetWeekNumberCount() { return Ask(&CCalendarLogic::GetWeekNumberCount, 0); }
 
 tagWeekNumberSpan GetWeekNumberItemWithIndex(std::int32_t index) {
-  if (g_pCalendarLogic == nullptr) {
-    return {};
-  }
-  const tagCalendarWeekSpan span = g_pCalendarLogic->GetWeekNumberItem(index);
+  const auto span = Ask(&CCalendarLogic::GetWeekNumberItem, tagCalendarWeekSpan{}, index);
   return {span.weekNumber, span.secondWeekNumber, span.rows};
 }
 
 CCalendarSolarDate GetContentDate() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->GetContentDate() : CCalendarSolarDate{};
+  return Ask(&CCalendarLogic::GetContentDate, CCalendarSolarDate{});
 }
 
-CCalendarSolarDate GetToday() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->GetToday() : CCalendarSolarDate{};
-}
+CCalendarSolarDate GetToday() { return Ask(&CCalendarLogic::GetToday, CCalendarSolarDate{}); }
 
-bool IsTodayInBoard() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->IsTodayInBoard() : false;
-}
+bool IsTodayInBoard() { return Ask(&CCalendarLogic::IsTodayInBoard, false); }
 
-EDispMonth GetDispMonth() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->GetDispMonth() : eDispMonthRollingWeeks;
-}
+EDispMonth GetDispMonth() { return Ask(&CCalendarLogic::GetDispMonth, eDispMonthRollingWeeks); }
 
-void SetDispMonth(EDispMonth mode) {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->SetDispMonth(mode);
-  }
-}
+void SetDispMonth(EDispMonth mode) { Tell(&CCalendarLogic::SetDispMonth, mode); }
 
-std::int32_t GetMaxRow() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->GetMaxRows() : 0;
-}
+std::int32_t GetMaxRow() { return Ask(&CCalendarLogic::GetMaxRows, 0); }
 
-void SetMaxRow(std::int32_t rows) {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->SetMaxRows(rows);
-  }
-}
+void SetMaxRow(std::int32_t rows) { Tell(&CCalendarLogic::SetMaxRows, rows); }
 
-std::int32_t GetPassedWeeks() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->GetPassedWeeks() : 0;
-}
+std::int32_t GetPassedWeeks() { return Ask(&CCalendarLogic::GetPassedWeeks, 0); }
 
-void SetPassedWeeks(std::int32_t weeks) {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->SetPassedWeeks(weeks);
-  }
-}
+void SetPassedWeeks(std::int32_t weeks) { Tell(&CCalendarLogic::SetPassedWeeks, weeks); }
 
 ECalendarWeek GetStartDayOfWeek() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->GetStartDayOfWeek() : eCalendarWeekMonday;
+  return Ask(&CCalendarLogic::GetStartDayOfWeek, eCalendarWeekMonday);
 }
 
-void SetStartDayOfWeek(ECalendarWeek day) {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->SetStartDayOfWeek(day);
-  }
-}
+void SetStartDayOfWeek(ECalendarWeek day) { Tell(&CCalendarLogic::SetStartDayOfWeek, day); }
 
-std::int32_t GetStartWeekNumber() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->GetStartWeekNumber() : 0;
-}
+std::int32_t GetStartWeekNumber() { return Ask(&CCalendarLogic::GetStartWeekNumber, 0); }
 
-void SetStartWeekNumber(std::int32_t week) {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->SetStartWeekNumber(week);
-  }
-}
+void SetStartWeekNumber(std::int32_t week) { Tell(&CCalendarLogic::SetStartWeekNumber, week); }
 
-bool GetHideBreakDay() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->IsHideBreakDay() : false;
-}
+bool GetHideBreakDay() { return Ask(&CCalendarLogic::IsHideBreakDay, false); }
 
-// Answers with the hide-break-day flag; hosts rely on this pairing.
-bool GetShowMonthInterval() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->IsHideBreakDay() : false;
-}
+// Answers with the hide-break-day flag: this pairing is part of the interface.
+bool GetShowMonthInterval() { return Ask(&CCalendarLogic::IsHideBreakDay, false); }
 
-bool GetShowBreakDayOfWeek() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->IsShowBreakDayOfWeek() : false;
-}
+bool GetShowBreakDayOfWeek() { return Ask(&CCalendarLogic::IsShowBreakDayOfWeek, false); }
 
 EWeekNumberCalc GetWeekNumberCalcType() {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->GetWeekNumberCalcType()
-                                     : eWeekNumberCalcIso8601;
+  return Ask(&CCalendarLogic::GetWeekNumberCalcType, eWeekNumberCalcIso8601);
 }
 
 void SetWeekNumberCalcType(EWeekNumberCalc type) {
-  if (g_pCalendarLogic != nullptr) {
-    g_pCalendarLogic->SetWeekNumberCalcType(type);
-  }
+  Tell(&CCalendarLogic::SetWeekNumberCalcType, type);
 }
 
 bool IsBreakDayOfWeek(std::int32_t dayOfWeek) {
-  return g_pCalendarLogic != nullptr ? g_pCalendarLogic->IsBreakDayOfWeek(dayOfWeek) : false;
+  return Ask(&CCalendarLogic::IsBreakDayOfWeek, false, dayOfWeek);
 }
 
 char* GetConfigKey() {

@@ -22,6 +22,8 @@ class CCalendarConfig {
 
   // Days of the day strip, and width of the visible range of a rolling board that shows today. A
   // value outside 1 to 7 is ignored.
+  // No exported function sets it: the setter is a described part of this class, which tests from
+  // outside are written against.
   int GetMaxColumns() const { return m_maxColumns; }
   void SetMaxColumns(int columns);
 
@@ -42,7 +44,7 @@ class CCalendarConfig {
   bool IsHideBreakDay() const { return m_hideBreakDay; }
   void SetHideBreakDay(bool hide) { m_hideBreakDay = hide; }
 
-  // Whether a band of cells marks the beginning of a month.
+  // Whether a month interval, seven cells, marks the beginning of a month.
   bool IsShowMonthInterval() const { return m_showMonthInterval; }
   void SetShowMonthInterval(bool show) { m_showMonthInterval = show; }
 

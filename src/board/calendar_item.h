@@ -31,15 +31,17 @@ class CCalendarItem {
   // Takes over all five fields.
   void Copy(const CCalendarItem& item) { *this = item; }
 
-  // The cell for logs, "(kind)year-month-day": an ordinary 5 March 2024 is "(3)2024-03-05", a
-  // default cell "(1)0000-00-00". A negative field is written with its sign.
-  std::string GetDay() const;
-
   // Longest text of AppendDay().
   static constexpr int kMaxDayLength = 4 * almara::kMaxDecimalLength + 4;
 
-  // Writes the text of GetDay() to out, without an end mark, and returns its end.
+  // Writes the cell for logs to out, "(kind)year-month-day", without an end mark, and returns its
+  // end: an ordinary 5 March 2024 is "(3)2024-03-05", a default cell "(1)0000-00-00". A negative
+  // field is written with its sign.
   char* AppendDay(char* out) const;
+
+  // The same text. Not used by the engine: a described part of this class, which tests from outside
+  // are written against.
+  std::string GetDay() const;
 
  private:
   CCalendarSolarDate m_date{};  // the date shown; year 0 marks a cell without a day

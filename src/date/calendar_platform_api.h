@@ -25,22 +25,25 @@ class CalendarPlatformApi {
   // Today's local date. The parameters keep their values if the system cannot tell the local time.
   static void GetTodayDate(int& year, int& month, int& day, int& week);
 
-  // Normalises a date in place and tells its day of week; the incoming week is not read. The
-  // parameters keep their values if the system cannot convert the date.
-  static void FixDateAndGetWeek(int& year, int& month, int& day, int& week);
-
   // The date offsetDays after the given one, before it if negative; all zeroes if the system cannot
   // convert it. The seconds of the offset are formed in 32-bit wrapping arithmetic, so offsets
   // beyond 24855 days either way do not arrive where they point.
   static CCalendarSolarDate GetNewDateByOffsetDays(CCalendarSolarDate date, int offsetDays);
 
-  // The same into four parameters, which keep their values if the system cannot convert the date.
-  // Always true, also then: callers zero the parameters first.
-  static bool GetNewDateByOffsetDays(int year, int month, int day, int offsetDays, int& outYear,
-                                     int& outMonth, int& outDay, int& outWeek);
-
   // g_mac_timezone in hours as it is at the moment, 10000 while it is unknown.
   static double PlatformGetTimeZoneValue();
+
+  // Not used by the engine: described parts of this class, which tests from outside are written
+  // against.
+
+  // Normalises a date in place and tells its day of week; the incoming week is not read. The
+  // parameters keep their values if the system cannot convert the date.
+  static void FixDateAndGetWeek(int& year, int& month, int& day, int& week);
+
+  // GetNewDateByOffsetDays() into four parameters, which keep their values if the system cannot
+  // convert the date. Always true, also then: callers zero the parameters first.
+  static bool GetNewDateByOffsetDays(int year, int month, int day, int offsetDays, int& outYear,
+                                     int& outMonth, int& outDay, int& outWeek);
 };
 
 namespace almara {

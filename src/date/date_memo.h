@@ -39,7 +39,7 @@ class DateMemo {
     return page.answers[slot];
   }
 
-  // The kept answer, null if there is none.
+  // The kept answer, null if there is none. This and Size() are for tests.
   const Answer* Find(std::int32_t variant, const CCalendarSolarDate& date) const {
     const PageKey key = KeyOf(variant, date);
     const auto block = m_blocks.find(BlockOf(key));

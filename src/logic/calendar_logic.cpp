@@ -75,6 +75,8 @@ void WriteTrace(const char* prefix, const CCalendarSolarDate& date) {
 
 }  // namespace
 
+CCalendarLogic::CCalendarLogic() : m_festival(this) {}
+
 void CCalendarLogic::InitCalendarLogic(ELanguage language) {
   SetZone(ZoneOfLanguage(language));
   GotoToday();

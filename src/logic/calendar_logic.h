@@ -20,7 +20,7 @@
 // thread.
 class CCalendarLogic : public CCalendarLogicBuild {
  public:
-  CCalendarLogic() : m_festival(this) {}
+  CCalendarLogic();
 
   // Fixes the time zone of lunar dates and solar terms to 8 (language 1 or 4) or 9 hours (2 or 7),
   // or leaves it as it is, and builds today's board. The language itself is not kept.
@@ -42,8 +42,8 @@ class CCalendarLogic : public CCalendarLogicBuild {
   void _GotoNextMonth();
 
   // Builds the board of a date. Outside the whole-month arrangement a date before the first day
-  // shown ends the new board, a date behind the last one opens it. Dates are compared as they are
-  // given.
+  // shown ends the new board, a date after the last one opens it, and one between them clears the
+  // page direction. Dates are compared as they are given.
   void GotoSpecifiedDate(int year, int month, int day);
 
   // Whole-month arrangement: offset months from this month. All others: offset pages of as many
@@ -83,7 +83,7 @@ class CCalendarLogic : public CCalendarLogicBuild {
   // State of the navigation alone; stays in force until it is set again.
   almara::PageDirection m_pageDirection = almara::PageDirection::kNone;
 
-  // Every code fits 16 bits, and kept in these more of them stay near the processor.
+  // Every code fits 16 bits, so that more of them stay in cache.
   using KeptCode = std::int16_t;
 
   // Answers by date, those of the festivals by language and date.

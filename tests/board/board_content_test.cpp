@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "support/board.h"
+#include "support/capture_stdout.h"
 #include "support/clock.h"
 #include "support/zone.h"
 
@@ -691,6 +692,58 @@ TEST_F(BoardContent, ContentOfTodayIsAPlainBuild) {
   std::vector<tagCalendarRow> rows;
   EXPECT_EQ(m_board._BuildContentOfToday(rows), 1);
   EXPECT_EQ(Text(rows[1]), "11 | 11 12 13* 14 15 16b 17b");
+}
+
+// The steps of a build, called one by one.
+class Steps : public CCalendarLogicBuild {
+ public:
+  using CCalendarLogicBuild::m_board;
+  using CCalendarLogicBuild::s_ArrDaysOfSolarMonth;
+};
+
+TEST(BoardSteps, OneByOneGiveTheBoardOfAWholeBuild) {
+  SetToday(2024, 3, 13);
+  almara::test::CaptureStdout output;
+  Steps whole;
+  whole._BuildCalendar(2024, 2, 28);
+  const std::string text = output.Take();
+  Steps steps;
+  EXPECT_EQ(steps._BuildContent(2024, 2, 28, steps.m_board.content.rows), 1);
+  steps._CalcRowColumnIndex();
+  steps._CalcRowSpanByWeekNumber();
+  EXPECT_EQ(output.Take(), "");
+  steps._PaintCalendarLog();
+  EXPECT_EQ(output.Take(), text);
+  EXPECT_EQ(steps.m_board.visible.rows, whole.m_board.visible.rows);
+  EXPECT_EQ(steps.m_board.visible.rowCount, 5);
+  EXPECT_EQ(steps.m_board.visible.columns, whole.m_board.visible.columns);
+  EXPECT_EQ(steps.m_board.spans.size(), whole.m_board.spans.size());
+  EXPECT_EQ(steps.m_board.spans.size(), 4U);
+}
+
+TEST(BoardSteps, ListIsPutTogetherAroundTheFocusOfTheBoard) {
+  Steps steps;
+  std::vector<tagCalendarRow> rows;
+  steps._BuildContent(2024, 3, 3, rows);
+  almara::DateList source;
+  for (int day = 29; day <= 31; ++day) {
+    source.push_back(CCalendarSolarDateEx::RealDay({2024, 2, day, 0}));
+  }
+  source[1] = CCalendarSolarDateEx::RealDay({2024, 3, 1, 5});
+  source[2] = CCalendarSolarDateEx::RealDay({2024, 3, 3, 0});
+  almara::DateList display;
+  steps._MakeDateListWithType(source, display, 2, 0);
+  EXPECT_EQ(display.size(), 10U);
+  steps._MakeDateListWithType(source, display, 2, 0, PageDirection::kBackward);
+  EXPECT_EQ(display.size(), 3U);
+}
+
+TEST(BoardSteps, DaysOfTheMonthsOfACommonYear) {
+  int days = 0;
+  for (const int ofMonth : Steps::s_ArrDaysOfSolarMonth) {
+    days += ofMonth;
+  }
+  EXPECT_EQ(days, 365);
 }
 
 TEST_F(BoardContent, BuildFillsTheRowsThatItIsGiven) {

@@ -92,7 +92,8 @@ TEST(WeekNumber, FirstOfJanuaryIsWeek1AndTheMondayBehindItBeginsWeek2) {
 int WeekOfItsThursday(const almara::test::Civil& d) {
   const int sinceMonday = (almara::test::DayOfWeek(d) + 6) % 7;
   const almara::test::Civil thursday = almara::test::AddDays(d, 3 - sinceMonday);
-  return (almara::test::DayNumber(thursday) - almara::test::DayNumber({thursday.year, 1, 1})) / 7 + 1;
+  return (almara::test::DayNumber(thursday) - almara::test::DayNumber({thursday.year, 1, 1})) / 7 +
+         1;
 }
 
 TEST(WeekNumber, EveryDateUnderTheIsoRule) {

@@ -11,9 +11,9 @@
 #include "board/calendar_logic_build.h"
 #include "support/civil.h"
 
-using almara::test::AddDays;
 using almara::DateList;
 using almara::PageDirection;
+using almara::test::AddDays;
 using almara::test::Civil;
 using almara::test::DayOfWeek;
 

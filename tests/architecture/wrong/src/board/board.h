@@ -1,2 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include "logic/calendar_logic.h"
