@@ -10,6 +10,7 @@ import subprocess
 import sys
 import unittest
 
+import cases
 import interface
 
 LIBRARY, SONAME, BUILD_TYPE = sys.argv[1:4]
@@ -65,4 +66,4 @@ class LibraryTest(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    unittest.main(argv=sys.argv[:1])
+    cases.main(sys.argv[:1])

@@ -13,6 +13,8 @@ import tempfile
 import unittest
 from pathlib import Path
 
+import cases
+
 ROOT = Path(__file__).resolve().parents[2]
 DOCUMENTS = {path: path.read_text(encoding="utf-8")
              for path in [*ROOT.glob("*.md"), *ROOT.glob("docs/*.md")]}
@@ -102,4 +104,4 @@ class NodeSnippets(Snippets):
 
 
 if __name__ == "__main__":
-    unittest.main()
+    cases.main()

@@ -8,6 +8,8 @@ import subprocess
 import sys
 import unittest
 
+import cases
+
 HOST = sys.argv[1:]
 VIEWER = os.environ.get("ALMARA_BOARD")
 BOARD_OPTIONS = ("--mode", "month", "--no-month-interval", "--no-annotations", "--color", "never")
@@ -86,4 +88,4 @@ class HostTest(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    unittest.main(argv=sys.argv[:1])
+    cases.main(sys.argv[:1])

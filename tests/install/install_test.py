@@ -9,6 +9,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
+import cases
 import interface
 
 ROOT = Path(__file__).resolve().parents[2]
@@ -164,4 +165,4 @@ class InstalledTree(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    unittest.main()
+    cases.main()

@@ -11,6 +11,7 @@ import termios
 import unicodedata
 import unittest
 
+import cases
 from harness import BOARD, environment, needs_terminal, output
 
 PLAIN = ("--language", "eng", "--no-annotations")
@@ -311,4 +312,4 @@ class Dump(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    unittest.main()
+    cases.main()

@@ -10,6 +10,7 @@ import tempfile
 import time
 import unittest
 
+import cases
 from harness import BOARD, environment, needs_terminal
 
 TMUX = shutil.which("tmux")
@@ -260,4 +261,4 @@ class Terminals(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    unittest.main()
+    cases.main()
