@@ -24,10 +24,13 @@ PROGRAMS = [
     "board/board_build_benchmark",
     "api/page_turn_benchmark",
     "api/load_benchmark",
+    "almanac/almanac_benchmark",
 ]
 LANGUAGES = range(1, 11)
 MODES = range(1, 5)
 SIZES = [1000, 10000, 100000, 1000000]
+ALMANAC_CALENDARS = range(5)  # one of a fixed offset, and the four published ones
+ALMANAC_LIMIT = 100  # nanoseconds
 LIBRARY_LIMIT = 200_000  # bytes
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 
@@ -127,6 +130,18 @@ def compare(results, build):
                  [results.ratio("MapFind/random_order/1000000", "MapFind/random_order/1000")], None)
     yield slower("loading the library", "loading an empty one",
                  [results.ratio("Load/almara", "Load/empty")], None)
+    for work, direction in (("lunar date by the almanac", "LunarDates"),
+                            ("Gregorian date by the almanac", "SolarDates")):
+        published = [f"Almanac{direction}/{calendar}" for calendar in ALMANAC_CALENDARS[1:]]
+        yield faster(f"{work}, random days of 1900 to 2099", icu,
+                     [results.ratio(f"Icu{direction}", name) for name in published], 500)
+        for calendars, names in (("", published),
+                                 (", calendar of another offset", [f"Almanac{direction}/0"])):
+            time = max(results.median(name) for name in names)
+            yield (f"the same{calendars}", "", f"{time:.0f} ns", f"at most {ALMANAC_LIMIT} ns",
+                   time <= ALMANAC_LIMIT)
+    yield slower("loading the library and asking the almanac both ways, for the first time",
+                 "loading it", [results.ratio("LoadAndAskAlmanac", "Load/almara")], 1.1)
     size = stripped_size(build)
     yield ("stripped library", "", f"{size / 1000:.0f} kB", f"under {LIBRARY_LIMIT // 1000} kB",
            size < LIBRARY_LIMIT)

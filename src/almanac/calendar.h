@@ -30,6 +30,21 @@ inline SolsticeYear SolsticeYearFrom(const Calendar& calendar, int year) {
                                    : ReckonSolsticeYear(calendar.reckoning, year);
 }
 
+// The year that holds a day of a Gregorian year 1900 to 2099.
+inline SolsticeYear SolsticeYearOfDay(const Calendar& calendar, int day, int gregorianYear) {
+  if (calendar.years != nullptr) {
+    const SolsticeYear* const later = calendar.years + (gregorianYear - kFirstSolstice);
+    return day < later->firstDay ? *(later - 1) : *later;
+  }
+  const Reckoning& reckoning = calendar.reckoning;
+  const int later = NewMoonOfSolstice(reckoning, gregorianYear);
+  return day < MonthStart(reckoning, later)
+             ? ReckonBetween(reckoning, gregorianYear - 1,
+                             NewMoonOfSolstice(reckoning, gregorianYear - 1), later)
+             : ReckonBetween(reckoning, gregorianYear, later,
+                             NewMoonOfSolstice(reckoning, gregorianYear + 1));
+}
+
 }  // namespace almara
 
 #endif  // ALMARA_ALMANAC_CALENDAR_H_

@@ -28,12 +28,12 @@ int PlaceOfDay(const SolsticeYear& year, int day) {
   return place;
 }
 
-// The month at a place of the year from a solstice.
-LunarMonth MonthAtPlace(const SolsticeYear& year, int solstice, int place) {
+// The month at a place of the year.
+LunarMonth MonthAtPlace(const SolsticeYear& year, int place) {
   const bool afterLeap = year.leapPlace != 0 && place >= year.leapPlace;
   const int count = kMonthOfSolstice + place - (afterLeap ? 1 : 0);
   const bool newYear = count > kMonthsOfYear;
-  return {newYear ? solstice + 1 : solstice,
+  return {newYear ? year.year + 1 : year.year,
           newYear ? count - kMonthsOfYear : count,
           afterLeap && place == year.leapPlace ? 1 : 0,
           StartOfPlace(year, place),
@@ -44,13 +44,8 @@ LunarMonth MonthAtPlace(const SolsticeYear& year, int solstice, int place) {
 }  // namespace
 
 LunarMonth MonthOfDay(const Calendar& calendar, int day, int gregorianYear) {
-  int solstice = gregorianYear;
-  SolsticeYear year = SolsticeYearFrom(calendar, solstice);
-  if (day < year.firstDay) {
-    --solstice;
-    year = SolsticeYearFrom(calendar, solstice);
-  }
-  return MonthAtPlace(year, solstice, PlaceOfDay(year, day));
+  const SolsticeYear year = SolsticeYearOfDay(calendar, day, gregorianYear);
+  return MonthAtPlace(year, PlaceOfDay(year, day));
 }
 
 std::optional<LunarMonth> FindMonth(const Calendar& calendar, int year, int month, int leap) {
@@ -59,16 +54,14 @@ std::optional<LunarMonth> FindMonth(const Calendar& calendar, int year, int mont
       year > kLastSolstice + (beforeNewYear ? 0 : 1)) {
     return std::nullopt;
   }
-  const int solstice = beforeNewYear ? year : year - 1;
-  const SolsticeYear months = SolsticeYearFrom(calendar, solstice);
+  const SolsticeYear months = SolsticeYearFrom(calendar, beforeNewYear ? year : year - 1);
   const int plain = beforeNewYear ? month - kMonthOfSolstice : month - 1 + kPlaceOfMonth1;
   if (leap != 0) {
-    return months.leapPlace == plain + 1
-               ? std::optional(MonthAtPlace(months, solstice, months.leapPlace))
-               : std::nullopt;
+    return months.leapPlace == plain + 1 ? std::optional(MonthAtPlace(months, months.leapPlace))
+                                         : std::nullopt;
   }
   const bool afterLeap = months.leapPlace != 0 && plain >= months.leapPlace;
-  return MonthAtPlace(months, solstice, plain + (afterLeap ? 1 : 0));
+  return MonthAtPlace(months, plain + (afterLeap ? 1 : 0));
 }
 
 int LeapMonthOfYear(const Calendar& calendar, int year) {

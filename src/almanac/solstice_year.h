@@ -17,6 +17,7 @@ constexpr int kFirstSolstice = 1899;
 constexpr int kLastSolstice = 2099;
 
 struct SolsticeYear {
+  std::int32_t year;          // Gregorian year of its winter solstice
   std::int32_t firstDay;      // day number on which month 11 begins
   std::int16_t firstNewMoon;  // of month 11, in the table
   std::uint16_t longMonths;   // bit p is set where the month at place p has 30 days
@@ -38,37 +39,41 @@ constexpr int NewMoonOfSolstice(const Reckoning& reckoning, int year) {
   return NewMoonOfDay(reckoning, CivilDay(reckoning, SolarTerm(year, kWinterSolstice)));
 }
 
-// The place of the first month without a principal term in a year of 13 months. Principal terms
-// have odd numbers, from 1 on in the year after the solstice; there are eleven of them for the
-// twelve months that follow the solstice's.
-constexpr int FindLeapPlace(const Reckoning& reckoning, int year, int firstNewMoon) {
-  int term = 1;
-  int place = 0;
-  int start = MonthStart(reckoning, firstNewMoon + 1);
-  int termDay = 0;
-  do {
-    ++place;
-    while ((termDay = CivilDay(reckoning, SolarTerm(year + 1, term))) < start) {
-      term += 2;
-    }
-    start = MonthStart(reckoning, firstNewMoon + place + 1);
-  } while (termDay < start);
-  return place;
+// Whether a month, by its first day and the next one's, holds none of the principal terms of a
+// Gregorian year. These have odd numbers; the terms before the given one are known to be earlier,
+// and it moves on to the first that is not.
+constexpr bool LacksPrincipalTerm(const Reckoning& reckoning, int year, int start, int end,
+                                  int& term) {
+  int day = CivilDay(reckoning, SolarTerm(year, term));
+  while (day < start) {
+    term += 2;
+    day = CivilDay(reckoning, SolarTerm(year, term));
+  }
+  return day >= end;
 }
 
 // The year from a winter solstice of 1899 to 2099, given the new moons of its month 11 and the
 // next.
 constexpr SolsticeYear ReckonBetween(const Reckoning& reckoning, int year, int first, int next) {
+  const int months = next - first;
   const int firstDay = MonthStart(reckoning, first);
   unsigned longMonths = 0;
+  int leapPlace = 0;
+  int term = 1;
   int start = firstDay;
-  for (int place = 0; place < next - first; ++place) {
+  for (int place = 0; place < months; ++place) {
     const int end = MonthStart(reckoning, first + place + 1);
     longMonths |= (end - start == 30 ? 1U : 0U) << place;
+    // Eleven terms are left for the twelve months after the solstice's, so one of them lacks a
+    // term.
+    if (months > kMonthsOfYear && leapPlace == 0 && place > 0 &&
+        LacksPrincipalTerm(reckoning, year + 1, start, end, term)) {
+      leapPlace = place;
+    }
     start = end;
   }
-  return {firstDay, static_cast<std::int16_t>(first), static_cast<std::uint16_t>(longMonths),
-          next - first > kMonthsOfYear ? FindLeapPlace(reckoning, year, first) : 0};
+  return {year, firstDay, static_cast<std::int16_t>(first), static_cast<std::uint16_t>(longMonths),
+          leapPlace};
 }
 
 constexpr SolsticeYear ReckonSolsticeYear(const Reckoning& reckoning, int year) {
