@@ -178,7 +178,7 @@ MovableFeasts AskMovableFeasts(int year) {
 }
 
 bool Holds(const SolarFestivalRule& rule, CCalendarSolarDate date, const MovableFeasts& feasts) {
-  switch (rule.kind) {
+  switch (rule.kind) {  // GCOVR_EXCL_BR_LINE: every kind has a case
     case RuleKind::kDay:
       return date.month == rule.month && date.day == rule.day;
     case RuleKind::kWeekday: {
