@@ -17,7 +17,7 @@ namespace {
 constexpr std::size_t kDays = 9973;
 
 std::vector<CCalendarSolarDate> RandomDays() {
-  auto days = Shuffled(DaysOfYears(1900, 2099));
+  auto days = almara::test::Shuffled(almara::test::DaysOfYears(1900, 2099));
   days.resize(kDays);
   return days;
 }

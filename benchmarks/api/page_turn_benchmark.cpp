@@ -14,6 +14,8 @@
 #include "silent_output.h"
 #include "yardstick/engine.h"
 
+namespace yardstick = almara::test::yardstick;
+
 namespace {
 
 constexpr int kRows = 6;

@@ -9,6 +9,8 @@
 #include "yardstick/days.h"
 #include "yardstick/engine.h"
 
+namespace yardstick = almara::test::yardstick;
+
 namespace {
 
 constexpr int kYear = 2024;
@@ -17,7 +19,7 @@ template <typename Engine>
 void AllLookups(benchmark::State& state) {
   g_mac_timezone = 8;
   const auto language = static_cast<ELanguage>(state.range(0));
-  const auto days = DaysOfYears(kYear, kYear);
+  const auto days = almara::test::DaysOfYears(kYear, kYear);
   for (auto _ : state) {
     Engine engine;
     for (const CCalendarSolarDate& day : days) {

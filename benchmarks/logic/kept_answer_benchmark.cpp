@@ -19,9 +19,9 @@ namespace {
 
 // Days from year 3000 on, which is outside the years of the solar terms: filling takes no time.
 std::vector<CCalendarSolarDate> Days(std::size_t count, bool shuffled) {
-  auto days = DaysOfYears(3000, 3000 + static_cast<int>(count / 365) + 1);
+  auto days = almara::test::DaysOfYears(3000, 3000 + static_cast<int>(count / 365) + 1);
   days.resize(count);
-  return shuffled ? Shuffled(days) : days;
+  return shuffled ? almara::test::Shuffled(days) : days;
 }
 
 std::string KeyOf(const CCalendarSolarDate& date) {
@@ -65,7 +65,7 @@ BENCHMARK_CAPTURE(MapFind, random_order, true)->RangeMultiplier(10)->Range(1000,
 // Memory kept for a date once all four look-ups of it are answered.
 void BytesOfAnsweredDate(benchmark::State& state) {
   g_mac_timezone = 8;
-  const auto days = DaysOfYears(1950, 2049);
+  const auto days = almara::test::DaysOfYears(1950, 2049);
   for (auto _ : state) {
     const std::size_t before = mallinfo2().uordblks;
     CCalendarLogic engine;

@@ -14,8 +14,8 @@
 namespace {
 
 std::vector<CCalendarSolarDate> Days(bool shuffled) {
-  auto days = DaysOfYears(2000, 2050);
-  return shuffled ? Shuffled(days) : days;
+  auto days = almara::test::DaysOfYears(2000, 2050);
+  return shuffled ? almara::test::Shuffled(days) : days;
 }
 
 void LunarDates(benchmark::State& state, bool shuffled) {

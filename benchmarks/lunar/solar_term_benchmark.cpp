@@ -29,7 +29,7 @@ BENCHMARK(SolarTermTable)->Unit(benchmark::kMicrosecond);
 
 void SolarTermsOfEveryDay(benchmark::State& state) {
   g_mac_timezone = 8;
-  const auto days = DaysOfYears(kYear, kYear);
+  const auto days = almara::test::DaysOfYears(kYear, kYear);
   for (auto _ : state) {
     CCalendarLogic engine;
     for (const CCalendarSolarDate& day : days) {

@@ -35,7 +35,7 @@ auto Key(const AlmanacInstant& instant) {
 // Walks the lunar days beside the Gregorian ones: each follows the one before by the lengths and
 // leap months that the almanac tells, and leads back to its date and day of the week.
 TEST_P(EveryCalendar, DaysFollowEachOtherAndLeadBack) {
-  const auto days = DaysOfYears(1900, 2099);
+  const auto days = almara::test::DaysOfYears(1900, 2099);
   CCalendarLunarDate expected = AlmanacLunarDate(GetParam(), days.front());
   int dayOfWeek = eCalendarWeekMonday;
   for (const CCalendarSolarDate& day : days) {
@@ -104,7 +104,7 @@ TEST_P(EveryCalendar, TermsAreInOrderAndOnTheirDays) {
       last = instant;
     }
   }
-  for (const CCalendarSolarDate& day : DaysOfYears(1900, 2099)) {
+  for (const CCalendarSolarDate& day : almara::test::DaysOfYears(1900, 2099)) {
     terms += AlmanacTermOfDate(GetParam(), day) != eSekkiNone ? 1 : 0;
   }
   EXPECT_EQ(terms, 4800);

@@ -9,6 +9,7 @@
 #include "festival/in_fresh_process.h"
 #include "support/zone.h"
 
+namespace almara::test {
 namespace {
 
 constexpr int kMin = std::numeric_limits<int>::min();
@@ -174,3 +175,4 @@ TEST_F(AnnotationExports, EveryIntIsAnswered) {
 }
 
 }  // namespace
+}  // namespace almara::test

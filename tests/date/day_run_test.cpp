@@ -33,7 +33,7 @@ void ExpectEqual(const CCalendarSolarDate& actual, const CCalendarSolarDate& exp
 // One midnight serves a run as well as one for each of its days, also where clocks change at
 // midnight and where a day is missing.
 TEST(DayRun, GivesTheDatesOfSeparateConversions) {
-  const auto days = DaysOfYears(1900, 2099);
+  const auto days = almara::test::DaysOfYears(1900, 2099);
   for (std::size_t i = 0; i < days.size(); i += 29) {
     const CCalendarSolarDate& first = days[i];
     const DayRun run(first.year, first.month, first.day);

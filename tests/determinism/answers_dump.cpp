@@ -15,6 +15,7 @@
 #include "lunar/annotation_checksums.h"
 #include "support/clock.h"
 
+namespace almara::test {
 namespace {
 
 using Converter = CCalendarLunarConverter;
@@ -141,13 +142,11 @@ void PrintSearches() {
   Print("bits of _Sunlongdays", sekki);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+// The report goes to the standard output as it was, the boards' dump to the file named.
+int Run(const char* dumpFile) {
   g_report = fdopen(dup(STDOUT_FILENO), "w");
-  if (argc != 2 || g_report == nullptr || std::freopen(argv[1], "w", stdout) == nullptr) {
-    std::fputs("usage: answers_dump FILE\n", stderr);
-    return 2;
+  if (g_report == nullptr || std::freopen(dumpFile, "w", stdout) == nullptr) {
+    return 1;
   }
   setenv("TZ", "UTC", 1);
   tzset();
@@ -158,4 +157,15 @@ int main(int argc, char** argv) {
   PrintBoards("Asia/Shanghai");
   PrintBoards("Australia/Lord_Howe");
   return 0;
+}
+
+}  // namespace
+}  // namespace almara::test
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::fputs("usage: answers_dump FILE\n", stderr);
+    return 2;
+  }
+  return almara::test::Run(argv[1]);
 }

@@ -9,8 +9,7 @@
 #include "in_fresh_process.h"
 #include "support/civil.h"
 
-using almara_test::DaysOfMonth;
-
+namespace almara::test {
 namespace {
 
 using Function = CCalendarFestivalFunction;
@@ -289,3 +288,4 @@ TEST(GoodFridayRule, AnswersEveryYear) {
 }
 
 }  // namespace
+}  // namespace almara::test

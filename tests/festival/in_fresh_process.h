@@ -12,6 +12,8 @@
 
 #include "support/leave_process.h"
 
+namespace almara::test {
+
 // The int that compute returns in a child process.
 template <typename Compute>
 int ValueInFreshProcess(Compute compute) {
@@ -22,7 +24,7 @@ int ValueInFreshProcess(Compute compute) {
   const pid_t child = fork();
   if (child == 0) {
     const int value = compute();
-    almara_test::LeaveProcess(write(ends[1], &value, sizeof value) == sizeof value ? 0 : 1);
+    LeaveProcess(write(ends[1], &value, sizeof value) == sizeof value ? 0 : 1);
   }
   close(ends[1]);
   int value = 0;
@@ -39,5 +41,7 @@ template <typename Predicate>
 bool HoldsInFreshProcess(Predicate holds) {
   return ValueInFreshProcess([&] { return holds() ? 1 : 0; }) == 1;
 }
+
+}  // namespace almara::test
 
 #endif  // ALMARA_TESTS_FESTIVAL_IN_FRESH_PROCESS_H_

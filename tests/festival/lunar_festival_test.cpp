@@ -10,6 +10,7 @@
 #include "festival/lunar_festival_rules.h"
 #include "logic/calendar_logic.h"
 
+namespace almara::test {
 namespace {
 
 constexpr int kMin = std::numeric_limits<int>::min();
@@ -163,7 +164,7 @@ TEST_F(LunarFestivals, AMonth12ThatALeapMonthFollowsHasNoEve) {
 TEST(LunarFestivalRule, AsksForTheNextDayOnlyWhereItDecides) {
   int asked = 0;
   const auto festival = [&](ELanguage language, CCalendarLunarDate lunar, CCalendarLunarDate next) {
-    return almara::LunarFestival(language, lunar, [&] {
+    return LunarFestival(language, lunar, [&] {
       ++asked;
       return next;
     });
@@ -184,3 +185,4 @@ TEST(LunarFestivalRule, AsksForTheNextDayOnlyWhereItDecides) {
 }
 
 }  // namespace
+}  // namespace almara::test

@@ -8,6 +8,7 @@
 #include "date/gregorian.h"
 #include "festival/calendar_festival.h"
 
+namespace almara::test {
 namespace {
 
 constexpr int kMin = std::numeric_limits<int>::min();
@@ -24,7 +25,7 @@ Year FestivalsOf2023(ELanguage language) {
   Year year;
   Festival(language, 2023, 1, 2);  // from the second date of a year on, Easter is known
   for (int month = 1; month <= 12; ++month) {
-    for (int day = 1; day <= almara::DaysOfMonth(2023, month); ++day) {
+    for (int day = 1; day <= DaysOfMonth(2023, month); ++day) {
       if (const EFestivalSolar code = Festival(language, 2023, month, day)) {
         year[{month, day}] = code;
       }
@@ -267,3 +268,4 @@ TEST_F(UsaEaster, GoodFridayOfYear29MayBeThatOf2024) {
 }
 
 }  // namespace
+}  // namespace almara::test

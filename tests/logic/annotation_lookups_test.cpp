@@ -6,6 +6,7 @@
 #include "date/calendar_platform_api.h"
 #include "logic/calendar_logic.h"
 
+namespace almara::test {
 namespace {
 
 constexpr int kMin = std::numeric_limits<int>::min();
@@ -159,3 +160,4 @@ TEST_F(AnnotationMemo, BuildsAndOptionsLeaveItAlone) {
 }
 
 }  // namespace
+}  // namespace almara::test

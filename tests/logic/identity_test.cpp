@@ -18,6 +18,7 @@
 #include "yardstick/days.h"
 #include "yardstick/solar_terms.h"
 
+namespace almara::test {
 namespace {
 
 constexpr int kFirstYear = 1799;  // a year beyond those that share work, on each side
@@ -40,7 +41,7 @@ class IdentityInZone : public testing::TestWithParam<int> {
 // midnight, where it would move a month by a day. Both in seconds.
 class Margins {
  public:
-  void Add(const almara::LunarQuarter& quarter) {
+  void Add(const LunarQuarter& quarter) {
     const bool sameQuarter = std::fabs(quarter.terms[0].time - m_first.terms[0].time) < 1;
     if (!sameQuarter) {
       m_first = quarter;
@@ -66,7 +67,7 @@ class Margins {
     m_nearestToMidnight = std::min(m_nearestToMidnight, toMidnight);
   }
 
-  almara::LunarQuarter m_first{};
+  LunarQuarter m_first{};
   double m_largestDifference = 0;
   double m_nearestToMidnight = kSecondsPerDay;
 };
@@ -77,8 +78,8 @@ TEST_P(IdentityInZone, LunarDates) {
   Margins margins;
   int checked = 0;
   for (const CCalendarSolarDate& day : DaysOfYears(kFirstYear, kLastYear)) {
-    const double dayCount = almara::DayCount(day.year, day.month, day.day);
-    const auto quarter = almara::FindLunarQuarter(dayCount, GetParam());
+    const double dayCount = DayCount(day.year, day.month, day.day);
+    const auto quarter = FindLunarQuarter(dayCount, GetParam());
     ASSERT_TRUE(quarter.has_value());
     margins.Add(*quarter);
     const CCalendarLunarDate expected =
@@ -158,3 +159,4 @@ TEST(Identity, InstantsOfSolarTermsHaveTheSameBits) {
 }
 
 }  // namespace
+}  // namespace almara::test

@@ -10,6 +10,8 @@
 #include "lunar/lunar_date.h"
 #include "zone_guard.h"
 
+namespace almara::test {
+
 constexpr int kFirstZone = -12;
 constexpr int kLastZone = 14;
 
@@ -24,10 +26,10 @@ inline std::uint64_t ChecksumOfLunarDates(int zone) {
 
 // The same where the days of a quarter share its months, as they do in the engine.
 inline std::uint64_t ChecksumOfSharedLunarDates(int zone) {
-  almara::LunarMemo memo;
+  LunarMemo memo;
   Checksum checksum;
   ForEachDay(1900, 2099,
-             [&](CCalendarSolarDate date) { checksum.Add(almara::LunarDateOf(date, zone, memo)); });
+             [&](CCalendarSolarDate date) { checksum.Add(LunarDateOf(date, zone, memo)); });
   return checksum.Value();
 }
 
@@ -47,5 +49,7 @@ inline std::uint64_t ChecksumOfTerms(int zone) {
   }
   return checksum.Value();
 }
+
+}  // namespace almara::test
 
 #endif  // ALMARA_TESTS_LUNAR_ANNOTATION_CHECKSUMS_H_

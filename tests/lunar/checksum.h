@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <cstring>
 
+namespace almara::test {
+
 // FNV-1a of the values added, byte by byte.
 class Checksum {
  public:
@@ -23,5 +25,7 @@ class Checksum {
  private:
   std::uint64_t m_value = 14695981039346656037U;
 };
+
+}  // namespace almara::test
 
 #endif  // ALMARA_TESTS_LUNAR_CHECKSUM_H_

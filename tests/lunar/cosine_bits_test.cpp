@@ -11,6 +11,7 @@
 
 extern "C" double __real_cos(double angle);
 
+namespace almara::test {
 namespace {
 
 bool g_disturbed = false;
@@ -71,3 +72,5 @@ extern "C" double __wrap_cos(double angle) {
   const double value = __real_cos(angle);
   return g_disturbed ? Disturbed(value) : value;
 }
+
+}  // namespace almara::test

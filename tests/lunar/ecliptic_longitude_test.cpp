@@ -6,11 +6,8 @@
 #include <cmath>
 #include <limits>
 
+namespace almara::test {
 namespace {
-
-using almara::MoonLongitude;
-using almara::NormalizedAngle;
-using almara::SunLongitude;
 
 TEST(NormalizedAngle, ReducesToOneTurn) {
   EXPECT_EQ(NormalizedAngle(0), 0);
@@ -82,3 +79,4 @@ TEST(Longitude, IsFiniteForEveryFiniteTime) {
 }
 
 }  // namespace
+}  // namespace almara::test

@@ -9,10 +9,12 @@
 
 #include "support/civil.h"
 
+namespace almara::test {
+
 // Calls visit with every date of the years, in order.
 template <typename Visit>
 void ForEachDay(int firstYear, int lastYear, Visit visit) {
-  for (almara_test::Civil day{firstYear, 1, 1}; day.year <= lastYear; day = NextDay(day)) {
+  for (Civil day{firstYear, 1, 1}; day.year <= lastYear; day = NextDay(day)) {
     visit(CCalendarSolarDate{day.year, day.month, day.day, 0});
   }
 }
@@ -30,5 +32,7 @@ inline std::string Text(CCalendarLunarDate date) {
                 date.day);
   return text;
 }
+
+}  // namespace almara::test
 
 #endif  // ALMARA_TESTS_LUNAR_GREGORIAN_DAYS_H_

@@ -8,10 +8,8 @@
 
 #include "gregorian_days.h"
 
+namespace almara::test {
 namespace {
-
-using almara::DateOfDayCount;
-using almara::DayCount;
 
 void ExpectDate(double jd, int year, int month, int day) {
   const tagSolarKyurekiYMDT date = DateOfDayCount(jd);
@@ -109,3 +107,4 @@ TEST(DatesOfDayCounts, GivesWholeNumbersForEveryDouble) {
 }
 
 }  // namespace
+}  // namespace almara::test

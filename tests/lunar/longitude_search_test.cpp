@@ -8,12 +8,8 @@
 #include "date/calendar_platform_api.h"
 #include "lunar/julian_date.h"
 
+namespace almara::test {
 namespace {
-
-using almara::DayCount;
-using almara::NewMoonBefore;
-using almara::PrincipalTermBefore;
-using almara::SeasonBefore;
 
 constexpr double kOneMinute = 1.0 / 1440;
 constexpr double kOneSecond = 1.0 / 86400;
@@ -113,3 +109,4 @@ TEST(NewMoonSearch, GivesItsStartShiftedByTheZoneWhereItNeverSettles) {
 }
 
 }  // namespace
+}  // namespace almara::test

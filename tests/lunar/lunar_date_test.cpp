@@ -9,6 +9,7 @@
 #include "date/calendar_platform_api.h"
 #include "gregorian_days.h"
 
+namespace almara::test {
 namespace {
 
 constexpr int kMin = std::numeric_limits<int>::min();
@@ -20,8 +21,8 @@ bool IsZero(const CCalendarLunarDate& lunar) {
 }
 
 CCalendarLunarDate Converted(int year, int month, int day, int zone) {
-  almara::LunarMemo nothingKept;
-  return almara::LunarDateOf({year, month, day, 0}, zone, nothingKept);
+  LunarMemo nothingKept;
+  return LunarDateOf({year, month, day, 0}, zone, nothingKept);
 }
 
 std::string Lunar(int year, int month, int day, int zone) {
@@ -201,3 +202,4 @@ TEST(LunarDateSpan, NoAnswerBeyondTheSpan) {
 }
 
 }  // namespace
+}  // namespace almara::test

@@ -15,6 +15,7 @@
 #include "lunar/longitude_search.h"
 #include "zone_guard.h"
 
+namespace almara::test {
 namespace {
 
 using Converter = CCalendarLunarConverter;
@@ -22,23 +23,23 @@ using Converter = CCalendarLunarConverter;
 TEST(ConverterClass, HandsOn) {
   const ZoneGuard guard(9);
   EXPECT_EQ(Text(Converter().Converter({2024, 2, 10, 3})), "2024-1-1");
-  EXPECT_EQ(Converter::_YMDT2JD(2000, 1, 1, 6, 30, 36), almara::DayCount(2000, 1, 1, 6, 30, 36));
+  EXPECT_EQ(Converter::_YMDT2JD(2000, 1, 1, 6, 30, 36), DayCount(2000, 1, 1, 6, 30, 36));
   tagSolarKyurekiYMDT date{};
   EXPECT_EQ(Converter::_JD2YMDT(2451544.75, &date), 1);
   EXPECT_EQ(date.year * 10000 + date.month * 100 + date.day, 20000101);
   EXPECT_EQ(date.hour, 18);
   EXPECT_EQ(Converter::_NORMALIZATION_ANGLE(-360), 360);
-  EXPECT_EQ(Converter::_LONGITUDE_SUN(0.24), almara::SunLongitude(0.24));
-  EXPECT_EQ(Converter::_LONGITUDE_MOON(0.24), almara::MoonLongitude(0.24));
+  EXPECT_EQ(Converter::_LONGITUDE_SUN(0.24), SunLongitude(0.24));
+  EXPECT_EQ(Converter::_LONGITUDE_MOON(0.24), MoonLongitude(0.24));
   tagSolarKyurekiNibun nibun{};
   EXPECT_EQ(Converter::_before_nibun(2460400, &nibun), 1);
-  EXPECT_EQ(nibun.time, almara::SeasonBefore(2460400, 9)->time);
+  EXPECT_EQ(nibun.time, SeasonBefore(2460400, 9)->time);
   EXPECT_EQ(nibun.longitude, 0);
   tagSolarKyurekiChu chu{};
   EXPECT_EQ(Converter::_calc_chu(2460380, &chu), 1);
-  EXPECT_EQ(chu.time, almara::PrincipalTermBefore(2460380, 9)->time);
+  EXPECT_EQ(chu.time, PrincipalTermBefore(2460380, 9)->time);
   EXPECT_EQ(chu.longitude, 330);
-  EXPECT_EQ(Converter::_calc_saku(2460380), almara::NewMoonBefore(2460380, 9));
+  EXPECT_EQ(Converter::_calc_saku(2460380), NewMoonBefore(2460380, 9));
 }
 
 TEST(ConverterClass, WritesNothingToNullAndNothingWhereASearchDoesNotSettle) {
@@ -74,11 +75,11 @@ TEST(SolarTermsClass, HandsOnAndReadsTheZoneAnew) {
     EXPECT_EQ(terms.Check24Sekki(2024, 6, day), eSekkiSummerSolstice);
     EXPECT_EQ(terms.Check24Sekki(2024, 6, 41 - day), eSekkiNone);
   }
-  EXPECT_EQ(terms._Sunlongdays(2000, 90), almara::SunInstantOfYear(2000, 90));
+  EXPECT_EQ(terms._Sunlongdays(2000, 90), SunInstantOfYear(2000, 90));
   EXPECT_EQ(terms._Ymd2Jd(2000, 1, 1), 2451544.0);
   EXPECT_EQ(CCalendarLunarSolarTerms::_deltaT(1990), 58);
-  EXPECT_EQ(CCalendarLunarSolarTerms::_SunLong(0.5), almara::SekkiSunLongitude(0.5));
-  EXPECT_EQ(CCalendarLunarSolarTerms::_SunMLong(0.5), almara::SekkiSeriesSum(0.5));
+  EXPECT_EQ(CCalendarLunarSolarTerms::_SunLong(0.5), SekkiSunLongitude(0.5));
+  EXPECT_EQ(CCalendarLunarSolarTerms::_SunMLong(0.5), SekkiSeriesSum(0.5));
   EXPECT_EQ(terms._GetDays2MD(2024, 60), 229);
   EXPECT_EQ(terms._GetYearDays(2024, 3, 1), 61);
   EXPECT_EQ(terms._GetSolarMonthDays(2000, 2), 29);
@@ -145,3 +146,4 @@ TEST(SolarTermsClass, FebruaryIsThatOfTheYearWorkedOnLast) {
 }
 
 }  // namespace
+}  // namespace almara::test

@@ -8,11 +8,8 @@
 #include "lunar/lunar_date.h"
 #include "lunar/sekki_lookup.h"
 
+namespace almara::test {
 namespace {
-
-using almara::DayCount;
-using almara::LunarMemo;
-using almara::LunarQuarter;
 
 TEST(LunarMemo, DaysOfAQuarterShareIt) {
   LunarMemo memo;
@@ -48,7 +45,7 @@ TEST(LunarMemo, SharesAQuarterWithinItsYearsAndZonesOnly) {
 
 TEST(LunarMemo, DaysOfAYearShareItsTerms) {
   LunarMemo memo;
-  const almara::SekkiDays* const year = &memo.SekkiDaysOf(2024, 8);
+  const SekkiDays* const year = &memo.SekkiDaysOf(2024, 8);
   EXPECT_EQ(&memo.SekkiDaysOf(2024, 8), year);
   EXPECT_NE(&memo.SekkiDaysOf(2023, 8), year);
 }
@@ -57,23 +54,22 @@ TEST(LunarMemo, DaysOfAYearShareItsTerms) {
 TEST(LunarMemo, AnotherZoneForgets) {
   LunarMemo memo;
   for (int round = 0; round < 2; ++round) {
-    EXPECT_EQ(Text(almara::LunarDateOf({2024, 2, 10, 0}, 8, memo)), "2024-1-1");
-    EXPECT_EQ(almara::SekkiOf({2024, 6, 21, 0}, 8, memo), eSekkiSummerSolstice);
-    EXPECT_EQ(Text(almara::LunarDateOf({2024, 2, 10, 0}, 0, memo)), "2024-1-2");
-    EXPECT_EQ(almara::SekkiOf({2024, 6, 21, 0}, 0, memo), eSekkiNone);
+    EXPECT_EQ(Text(LunarDateOf({2024, 2, 10, 0}, 8, memo)), "2024-1-1");
+    EXPECT_EQ(SekkiOf({2024, 6, 21, 0}, 8, memo), eSekkiSummerSolstice);
+    EXPECT_EQ(Text(LunarDateOf({2024, 2, 10, 0}, 0, memo)), "2024-1-2");
+    EXPECT_EQ(SekkiOf({2024, 6, 21, 0}, 0, memo), eSekkiNone);
   }
   // The zone of a new memo is not taken for known.
   LunarMemo other;
-  EXPECT_EQ(almara::SekkiOf({2024, 6, 20, 0}, 0, other), eSekkiSummerSolstice);
-  EXPECT_EQ(almara::SekkiOf({2024, 6, 20, 0}, 8, other), eSekkiNone);
+  EXPECT_EQ(SekkiOf({2024, 6, 20, 0}, 0, other), eSekkiSummerSolstice);
+  EXPECT_EQ(SekkiOf({2024, 6, 20, 0}, 8, other), eSekkiNone);
 }
 
 TEST(LunarMemo, OutsideItsZonesDatesAreThoseWorkedOutAlone) {
   LunarMemo memo;
   ForEachDay(2023, 2024, [&](CCalendarSolarDate date) {
     LunarMemo empty;
-    ASSERT_EQ(Text(almara::LunarDateOf(date, -13, memo)),
-              Text(almara::LunarDateOf(date, -13, empty)))
+    ASSERT_EQ(Text(LunarDateOf(date, -13, memo)), Text(LunarDateOf(date, -13, empty)))
         << Text(date);
   });
 }
@@ -84,3 +80,4 @@ TEST(LunarMemo, HasNoQuarterWhereASearchDoesNotSettle) {
 }
 
 }  // namespace
+}  // namespace almara::test

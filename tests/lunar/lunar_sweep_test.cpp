@@ -10,6 +10,7 @@
 #include "annotation_checksums.h"
 #include "logic/calendar_logic.h"
 
+namespace almara::test {
 namespace {
 
 // "zone: date: yesterday's lunar date -> this date's".
@@ -127,7 +128,7 @@ TEST_P(EveryZone, TermsOfAYearStandInOrder) {
       const tag24SekkiResult& term = terms[i];
       ASSERT_EQ(term.nSekki, i) << year;
       ASSERT_EQ(term.nMonth, i / 2 + 1) << year;
-      ASSERT_TRUE(term.nDay >= 1 && term.nDay <= almara_test::DaysOfMonth(year, term.nMonth));
+      ASSERT_TRUE(term.nDay >= 1 && term.nDay <= DaysOfMonth(year, term.nMonth));
       ASSERT_TRUE(term.nHour >= 0 && term.nHour <= 24) << year;
       const double day = CCalendarLunarConverter::_YMDT2JD(year, term.nMonth, term.nDay, 0, 0, 0);
       if (before != 0) {
@@ -158,3 +159,4 @@ TEST(EveryDate, HoldsTheTermsOfTheYear) {
 }
 
 }  // namespace
+}  // namespace almara::test

@@ -12,24 +12,20 @@
 #include "lunar/sekki_lookup.h"
 #include "lunar/sekki_year.h"
 
+namespace almara::test {
 namespace {
-
-using almara::DayOfHistoricalYear;
-using almara::DaysOfHistoricalMonth;
-using almara::HistoricalDayNumber;
-using almara::MonthDayOfHistoricalYear;
 
 using Terms = std::array<tag24SekkiResult, kSekkiCount>;
 
 Terms TermsOfYear(int year, int zone) {
   Terms terms{};
-  almara::FindSekkiOfYear(year, zone, terms.data());
+  FindSekkiOfYear(year, zone, terms.data());
   return terms;
 }
 
 ESolarKyureki24 TermOfDate(int year, int month, int day, int zone) {
-  almara::LunarMemo memo;
-  return almara::SekkiOf({year, month, day, 0}, zone, memo);
+  LunarMemo memo;
+  return SekkiOf({year, month, day, 0}, zone, memo);
 }
 
 void ExpectTerm(const Terms& terms, ESolarKyureki24 sekki, int month, int day, int hour) {
@@ -143,15 +139,15 @@ constexpr SunLongitude kSunLongitudes[] = {
 
 TEST(SekkiLongitude, IsTheSumOfTheSeriesAndItsCorrection) {
   for (const SunLongitude& expected : kSunLongitudes) {
-    EXPECT_NEAR(almara::SekkiSeriesSum(expected.days), expected.sum, 1e-9);
-    EXPECT_NEAR(almara::SekkiSunLongitude(expected.days), expected.apparent, 1e-9);
+    EXPECT_NEAR(SekkiSeriesSum(expected.days), expected.sum, 1e-9);
+    EXPECT_NEAR(SekkiSunLongitude(expected.days), expected.apparent, 1e-9);
   }
 }
 
 // The correction may push a sum close to 0 or 360 over the end.
 TEST(SekkiLongitude, LiesWithinOneTurn) {
   for (int i = -400000; i <= 400000; ++i) {
-    const double longitude = almara::SekkiSunLongitude(i * 0.0913);
+    const double longitude = SekkiSunLongitude(i * 0.0913);
     ASSERT_TRUE(longitude >= 0 && longitude < 360) << i;
   }
 }
@@ -159,16 +155,16 @@ TEST(SekkiLongitude, LiesWithinOneTurn) {
 // So far away that a double holds no more than every 512th degree.
 TEST(SekkiLongitude, ASumThatRoundingCarriesBeyondTheTurnIsBroughtBack) {
   for (const double days : {3.3116549769566285e18, 1.044172087301109e17}) {
-    const double sum = almara::SekkiSeriesSum(days);
+    const double sum = SekkiSeriesSum(days);
     EXPECT_TRUE(sum < 0 || sum > 361) << sum;
-    const double longitude = almara::SekkiSunLongitude(days);
+    const double longitude = SekkiSunLongitude(days);
     EXPECT_TRUE(longitude >= 0 && longitude < 360) << longitude;
   }
 }
 
 TEST(SekkiInstant, CountsFromOneOnTheFirstOfJanuary) {
   // The spring equinox of 2000: 20 March, 7:35 UT, which is day 80.
-  EXPECT_NEAR(almara::SunInstantOfYear(2000, 0), 80 + (7 + 35 / 60.0) / 24 + 64 / 86400.0, 0.004);
+  EXPECT_NEAR(SunInstantOfYear(2000, 0), 80 + (7 + 35 / 60.0) / 24 + 64 / 86400.0, 0.004);
 }
 
 // The search steps over whole days and must not step over the crossing. The Sun is fastest in
@@ -177,9 +173,9 @@ TEST(SekkiInstant, IsWhereTheSunReachesTheLongitude) {
   for (int year = 1800; year <= 2099; ++year) {
     const double start = HistoricalDayNumber(year, 1, 0) - 2451544.5;
     for (int longitude = 0; longitude < 360; ++longitude) {
-      const double day = almara::SunInstantOfYear(year, longitude);
+      const double day = SunInstantOfYear(year, longitude);
       ASSERT_TRUE(day > 0 && day < 367) << year << ' ' << longitude;
-      const double sun = almara::SekkiSunLongitude(start + day);
+      const double sun = SekkiSunLongitude(start + day);
       const double off = sun > 270 && longitude < 90 ? sun - 360 - longitude : sun - longitude;
       ASSERT_NEAR(off, 0, 1e-6) << year << ' ' << longitude;
     }
@@ -187,8 +183,8 @@ TEST(SekkiInstant, IsWhereTheSunReachesTheLongitude) {
 }
 
 TEST(SekkiDeltaT, IsAStraightLine) {
-  EXPECT_EQ(almara::DeltaT(1990), 58);
-  EXPECT_DOUBLE_EQ(almara::DeltaT(2024), 72.96);
+  EXPECT_EQ(DeltaT(1990), 58);
+  EXPECT_DOUBLE_EQ(DeltaT(2024), 72.96);
 }
 
 TEST(HistoricalYear, ChangesFromTheJulianCalendarToTheGregorian) {
@@ -202,7 +198,7 @@ TEST(HistoricalYear, ChangesFromTheJulianCalendarToTheGregorian) {
 TEST(HistoricalYear, CountsDaysAsTheLunarDatesDo) {
   ForEachDay(1800, 2099, [](CCalendarSolarDate date) {
     ASSERT_EQ(HistoricalDayNumber(date.year, date.month, date.day),
-              almara::DayCount(date.year, date.month, date.day))
+              DayCount(date.year, date.month, date.day))
         << Text(date);
   });
 }
@@ -244,3 +240,4 @@ TEST(HistoricalYear, DaysOfAMonth) {
 }
 
 }  // namespace
+}  // namespace almara::test

@@ -4,6 +4,8 @@
 
 #include "date/calendar_platform_api.h"
 
+namespace almara::test {
+
 // Sets the zone of the astronomy, in hours, for the length of a scope.
 class ZoneGuard {
  public:
@@ -15,5 +17,7 @@ class ZoneGuard {
  private:
   int m_before;
 };
+
+}  // namespace almara::test
 
 #endif  // ALMARA_TESTS_LUNAR_ZONE_GUARD_H_

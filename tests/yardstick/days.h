@@ -8,6 +8,8 @@
 #include <random>
 #include <vector>
 
+namespace almara::test {
+
 // Every day from 1 January of firstYear to 31 December of lastYear, in order.
 inline std::vector<CCalendarSolarDate> DaysOfYears(int firstYear, int lastYear) {
   std::vector<CCalendarSolarDate> days;
@@ -28,5 +30,7 @@ inline std::vector<CCalendarSolarDate> Shuffled(std::vector<CCalendarSolarDate> 
   std::shuffle(days.begin(), days.end(), std::mt19937(20240210));
   return days;
 }
+
+}  // namespace almara::test
 
 #endif  // ALMARA_YARDSTICK_DAYS_H_

@@ -5,7 +5,7 @@
 
 #include "yardstick/solar_terms.h"
 
-namespace yardstick {
+namespace almara::test::yardstick {
 namespace {
 
 std::string DateKey(CCalendarSolarDate date) {
@@ -52,4 +52,4 @@ EFestivalLunar Engine::CheckFestivalLunar(ELanguage language, CCalendarSolarDate
                   [&] { return m_festival.GetFestivalByLunar(language, date); });
 }
 
-}  // namespace yardstick
+}  // namespace almara::test::yardstick

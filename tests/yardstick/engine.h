@@ -10,7 +10,7 @@
 #include "festival/calendar_festival.h"
 #include "lunar/calendar_lunar_converter.h"
 
-namespace yardstick {
+namespace almara::test::yardstick {
 
 // The four annotation look-ups, each a text key, a std::map and the plain computation. The
 // festivals are those of the engine's rules.
@@ -30,6 +30,6 @@ class Engine {
   std::map<std::string, EFestivalLunar> m_lunarFestivals;
 };
 
-}  // namespace yardstick
+}  // namespace almara::test::yardstick
 
 #endif  // ALMARA_YARDSTICK_ENGINE_H_

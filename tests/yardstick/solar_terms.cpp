@@ -5,7 +5,7 @@
 
 #include "date/calendar_platform_api.h"
 
-namespace yardstick {
+namespace almara::test::yardstick {
 
 double Sunlongdays(double year, double longitude) {
   CCalendarLunarSolarTerms terms;
@@ -57,4 +57,4 @@ ESolarKyureki24 Check24Sekki(int year, int month, int day) {
   return eSekkiNone;
 }
 
-}  // namespace yardstick
+}  // namespace almara::test::yardstick

@@ -4,7 +4,7 @@
 
 #include "lunar/calendar_lunar_solar_terms.h"
 
-namespace yardstick {
+namespace almara::test::yardstick {
 
 // CCalendarLunarSolarTerms::_Sunlongdays with every day scanned from the start of the year.
 double Sunlongdays(double year, double longitude);
@@ -15,6 +15,6 @@ void GetSekkiByYear(int year, tag24SekkiResult (&results)[kSekkiCount]);
 // CCalendarLunarSolarTerms::Check24Sekki with the whole year computed for each question.
 ESolarKyureki24 Check24Sekki(int year, int month, int day);
 
-}  // namespace yardstick
+}  // namespace almara::test::yardstick
 
 #endif  // ALMARA_YARDSTICK_SOLAR_TERMS_H_
