@@ -8,6 +8,7 @@ answers of the library are off the two.
 import sys
 import unittest
 
+from almanac import ERROR_OF_NEW_MOONS, ERROR_OF_TERMS, PRINTED_NEXT_DAY, almanacs
 from calendars import HOSTS, Ephemeris, Icu, LunarDate, ask_library, day_number, day_of
 from zones import Zone, count_days
 
@@ -93,6 +94,39 @@ class LibraryTest(unittest.TestCase):
     def test_days_on_which_icu_is_off_the_ephemeris(self):
         found = {zone: count_days(self.zones[zone].off("ICU")) for zone in (8, 9)}
         self.assertEqual(found, {8: 537, 9: 360})
+
+
+class AlmanacTest(unittest.TestCase):
+    """The almanac, whose table comes from another ephemeris than the one here."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.almanacs = almanacs(LIBRARY, EPHEMERIS)
+
+    def test_no_day_is_off_but_one_printed_month(self):
+        for almanac in self.almanacs:
+            # From the day that begins the month by reckoning to its last one.
+            printed = range(PRINTED_NEXT_DAY, PRINTED_NEXT_DAY + 30)
+            wanted = list(printed) if almanac.calendar.name in ("China", "Korea") else []
+            self.assertEqual(almanac.days_off, wanted, almanac.calendar.name)
+
+    def test_no_term_is_on_another_day(self):
+        for almanac in self.almanacs:
+            self.assertEqual(len(almanac.terms), 4800)
+            self.assertEqual(almanac.terms_off, [], almanac.calendar.name)
+
+    def test_instants_are_within_the_error_of_the_table(self):
+        for almanac in self.almanacs:
+            new_moons, terms = almanac.errors()
+            self.assertLess(new_moons, ERROR_OF_NEW_MOONS)
+            self.assertLess(terms, ERROR_OF_TERMS)
+
+    def test_days_that_are_not_certain(self):
+        for almanac in self.almanacs:
+            self.assertEqual(almanac.uncertain, almanac.uncertain_by_formula())
+        china = [instant.text for instant in self.almanacs[0].uncertain]
+        for known in ("2057-09-29 00:00:36", "2084-03-20 00:00:29", "2089-09-04 23:59:05"):
+            self.assertIn(known, china)
 
 
 if __name__ == "__main__":

@@ -9,6 +9,7 @@ Prints the report, in Markdown, to the standard output; progress goes to the sta
 import math
 import sys
 
+from almanac import almanacs
 from calendars import DAYS, FIRST_YEAR, HOSTS, LAST_YEAR, LIBRARY_SOURCES, OTHER_HOSTS, ZONES
 from calendars import Ephemeris, Icu, ask_library, day_number, day_of
 from zones import DAY, FIXED_DAYS, MONTH, Zone, count_days, deviations, errors
@@ -276,6 +277,34 @@ def icu_deviations(zones):
                 rows)
 
 
+# The almanac
+
+
+def almanac_in_short(found):
+    """The figures of the almanac's calendars."""
+    def off_text(days):
+        return f"{len(days)} of {DAYS}" + (f": {span_text(days)}" if days else "")
+
+    print_table("The almanac: off the ephemeris",
+                ("calendar", "lunar dates off", "solar terms on another day",
+                 "new moons off by at most", "terms off by at most"),
+                [(each.calendar.name, off_text(each.days_off),
+                  f"{len(each.terms_off)} of {len(each.terms)}",
+                  *(f"{seconds:.1f} s" for seconds in each.errors())) for each in found])
+
+
+def uncertain_days(found):
+    """The almanac's instants that are too near midnight to be certain of the day."""
+    def row(each, instant):
+        away = min(instant.second, 86400 - instant.second)
+        return (each.calendar.name, instant.text, instant.name, f"{away} s",
+                f"{instant.uncertainty} s")
+
+    print_table("The almanac: days that are not certain",
+                ("calendar", "instant", "of", "from midnight", "uncertain by"),
+                [row(each, instant) for each in found for instant in each.uncertain])
+
+
 def progress(step):
     """Tells what comes next."""
     print(f"  {step}", file=sys.stderr, flush=True)
@@ -314,6 +343,9 @@ def main():
     new_years(zones)
     icu_deviations(zones)
     lunar_deviations("Lunar dates off the ephemeris in the other zones", others)
+    found = almanacs(sys.argv[1], ephemeris)
+    almanac_in_short(found)
+    uncertain_days(found)
 
 
 if __name__ == "__main__":
