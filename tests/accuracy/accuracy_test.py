@@ -128,6 +128,10 @@ class AlmanacTest(unittest.TestCase):
         for known in ("2057-09-29 00:00:36", "2084-03-20 00:00:29", "2089-09-04 23:59:05"):
             self.assertIn(known, china)
 
+    def test_no_uncertain_day_gives_a_month_another_number(self):
+        for almanac in self.almanacs:
+            self.assertEqual(almanac.renumbering(), [], almanac.calendar.name)
+
 
 if __name__ == "__main__":
     LIBRARY = sys.argv.pop(1)

@@ -137,6 +137,29 @@ class Almanac:
                     found.append(instant)
         return sorted(found)
 
+    def renumbering(self):
+        """The uncertain instants that would give a month another number on the other day."""
+        names = self._month_names(self._moons, self._terms)
+        found = []
+        for instant in self.uncertain:
+            after = instant.second < SECONDS_PER_DAY / 2
+            shift = (-1 if after else 1) * 2 * instant.uncertainty / SECONDS_PER_DAY
+            moment = instant.day + instant.second / SECONDS_PER_DAY
+
+            def moved(other, moment=moment, shift=shift):
+                return other + shift if abs(other - moment) * SECONDS_PER_DAY < 10 else other
+
+            moons = [moved(moon) for moon in self._moons]
+            terms = [term._replace(moment=moved(term.moment)) for term in self._terms]
+            if self._month_names(moons, terms) != names:
+                found.append(instant)
+        return found
+
+    @staticmethod
+    def _month_names(moons, terms):
+        return [(lunar.year, lunar.month, lunar.leap)
+                for lunar in dates_by_rule(moons, terms, 0) if lunar.day == 15]
+
     def errors(self):
         """The largest difference from the ephemeris, in seconds: of new moons, of terms."""
         def largest(instants, moments):
