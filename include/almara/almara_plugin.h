@@ -42,7 +42,8 @@ ALMARA_PLUGIN_EXPORT GType almara_plugin_get_type(void);
  * An application's generated registrant calls it once, on the thread of the window. Another call
  * creates another plugin and channel of the same name.
  *
- * @param registrar the caller's; it is not kept. Must not be NULL.
+ * @param registrar the caller's; it is not kept. If it is NULL or has no messenger, GLib reports
+ *     it once and nothing is created.
  */
 ALMARA_PLUGIN_EXPORT void almara_plugin_register_with_registrar(FlPluginRegistrar* registrar);
 

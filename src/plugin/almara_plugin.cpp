@@ -59,10 +59,14 @@ static void method_call_cb(FlMethodChannel* /*channel*/, FlMethodCall* method_ca
 }
 
 void almara_plugin_register_with_registrar(FlPluginRegistrar* registrar) {
+  // Without a messenger, as where the application's engine did not start, there is no channel.
+  FlBinaryMessenger* messenger =
+      registrar != nullptr ? fl_plugin_registrar_get_messenger(registrar) : nullptr;
+  g_return_if_fail(messenger != nullptr);
   gpointer plugin = g_object_new(almara_plugin_get_type(), nullptr);
   gpointer codec = fl_standard_method_codec_new();
-  FlMethodChannel* channel = fl_method_channel_new(fl_plugin_registrar_get_messenger(registrar),
-                                                   "almara", static_cast<FlMethodCodec*>(codec));
+  FlMethodChannel* channel =
+      fl_method_channel_new(messenger, "almara", static_cast<FlMethodCodec*>(codec));
   fl_method_channel_set_method_call_handler(channel, method_call_cb, g_object_ref(plugin),
                                             g_object_unref);
   g_object_unref(plugin);

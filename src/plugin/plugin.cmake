@@ -20,6 +20,10 @@ elseif(ALMARA_FLUTTER_DIR)
   # The embedding's header names GTK's, the plugin nothing of it.
   find_package(PkgConfig REQUIRED)
   pkg_check_modules(ALMARA_GTK gtk+-3.0)
+  if(NOT ALMARA_GTK_FOUND AND EXISTS "${ALMARA_FLUTTER_INCLUDE_DIR}/flutter_linux/fl_view.h")
+    message(FATAL_ERROR "ALMARA_FLUTTER_DIR: the embedding's headers need the development files of "
+      "GTK 3, which pkg-config does not find (Debian: libgtk-3-dev)")
+  endif()
   target_include_directories(almara_embedding SYSTEM INTERFACE
     ${ALMARA_FLUTTER_INCLUDE_DIR} ${ALMARA_GTK_INCLUDE_DIRS})
   set(embedding almara_embedding)

@@ -17,9 +17,8 @@ EMBEDDING_FUNCTIONS = {
     "fl_standard_method_codec_new", "fl_value_new_string", "fl_value_unref"}
 
 
-def declared_functions(header):
-    """The functions that a public header declares as exported."""
-    return set(interface.read(f"almara/{header}").functions)
+# What a library with the plugin object exports.
+FUNCTIONS = set(interface.read(*interface.ENGINE_HEADERS, *interface.PLUGIN_HEADERS).functions)
 
 
 def _output(*command):

@@ -42,7 +42,7 @@ class Pubspec(unittest.TestCase):
         file = re.sub(r"(?<!^)(?=[A-Z])", "_", plugin_class).lower()
         self.assertTrue((ROOT / "include" / name / f"{file}.h").is_file())
         self.assertIn(f"{file}_register_with_registrar",
-                      library_file.declared_functions(f"{file}.h"))
+                      library_file.FUNCTIONS)
         build = read("linux/CMakeLists.txt")
         self.assertIn(f"add_library({name}_plugin SHARED", build)
         self.assertRegex(build, rf"set\({name}_bundled_libraries .*PARENT_SCOPE\)")

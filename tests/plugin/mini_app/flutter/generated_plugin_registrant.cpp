@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "flutter/generated_plugin_registrant.h"
+#include "generated_plugin_registrant.h"
 
 #include <almara/almara_plugin.h>
 
-void fl_register_plugins(FlPluginRegistrar* registrar) {
-  almara_plugin_register_with_registrar(registrar);
+void fl_register_plugins(FlPluginRegistry* registry) {
+  g_autoptr(FlPluginRegistrar) almara_registrar =
+      fl_plugin_registry_get_registrar_for_plugin(registry, "AlmaraPlugin");
+  almara_plugin_register_with_registrar(almara_registrar);
 }

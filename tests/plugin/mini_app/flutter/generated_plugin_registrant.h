@@ -4,6 +4,7 @@
 
 #include <flutter_linux/flutter_linux.h>
 
-void fl_register_plugins(FlPluginRegistrar* registrar);
+// Registers Flutter plugins.
+void fl_register_plugins(FlPluginRegistry* registry);
 
 #endif  // ALMARA_TESTS_GENERATED_PLUGIN_REGISTRANT_H_

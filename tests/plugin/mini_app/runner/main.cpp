@@ -9,8 +9,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "embedding_control.h"
-#include "flutter/generated_plugin_registrant.h"
+#include "application.h"
+#include "generated_plugin_registrant.h"
 
 namespace {
 
@@ -21,13 +21,17 @@ namespace {
 
 void* Resolve(void* library, const char* name) {
   void* address = dlsym(library, name);
-  if (address == nullptr) Fail(dlerror());
+  if (address == nullptr) {
+    Fail(dlerror());
+  }
   return address;
 }
 
 std::string FileOf(void* address) {
   Dl_info info;
-  if (dladdr(address, &info) == 0) Fail("an address of no file");
+  if (dladdr(address, &info) == 0) {
+    Fail("an address of no file");
+  }
   return info.dli_fname;
 }
 
@@ -45,22 +49,27 @@ int BoardRows(void* library) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc < 2) Fail("which library?");
-  FlPluginRegistrar* registrar = embedding::NewRegistrar();
-  fl_register_plugins(registrar);
+  if (argc < 2) {
+    Fail("which library?");
+  }
+  FlPluginRegistry* const application = almara::test::NewApplication();
+  fl_register_plugins(application);
 
   void* library = dlopen(argv[1], RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) Fail(dlerror());
+  if (library == nullptr) {
+    Fail(dlerror());
+  }
   const std::string file = FileOf(Resolve(library, "native_add"));
   for (int i = 2; i < argc; ++i) {
     // Elsewhere would mean a namesake in another library of the program.
-    if (FileOf(Resolve(library, argv[i])) != file) Fail(std::string(argv[i]) + ": not in " + file);
+    if (FileOf(Resolve(library, argv[i])) != file) {
+      Fail(std::string(argv[i]) + ": not in " + file);
+    }
   }
 
   const int rows = BoardRows(library);
   std::printf("library: %s\nresolved: %d\nrows: %d\n", file.c_str(), argc - 2, rows);
   std::printf("version: %s\n",
-              embedding::CallMethod(registrar, "almara", "getPlatformVersion").text.c_str());
-  g_object_unref(registrar);
-  std::printf("channels left: %d\n", embedding::CountLive().channels);
+              almara::test::CallMethod(application, "almara", "getPlatformVersion").text.c_str());
+  g_object_unref(application);
 }
