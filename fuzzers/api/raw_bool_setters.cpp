@@ -7,6 +7,7 @@ extern "C" {
 void SetHideBreakDay(std::uint8_t hide);
 void SetShowMonthInterval(std::uint8_t show);
 void SetShowBreakDayOfWeek(std::uint8_t show);
+void SetPrintBoard(std::uint8_t print);
 void SetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak);
 }
 
@@ -15,6 +16,7 @@ namespace almara::test {
 void RawSetHideBreakDay(std::uint8_t hide) { SetHideBreakDay(hide); }
 void RawSetShowMonthInterval(std::uint8_t show) { SetShowMonthInterval(show); }
 void RawSetShowBreakDayOfWeek(std::uint8_t show) { SetShowBreakDayOfWeek(show); }
+void RawSetPrintBoard(std::uint8_t print) { SetPrintBoard(print); }
 void RawSetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak) {
   SetBreakDayOfWeek(dayOfWeek, isBreak);
 }

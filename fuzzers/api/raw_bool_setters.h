@@ -11,6 +11,7 @@ namespace almara::test {
 void RawSetHideBreakDay(std::uint8_t hide);
 void RawSetShowMonthInterval(std::uint8_t show);
 void RawSetShowBreakDayOfWeek(std::uint8_t show);
+void RawSetPrintBoard(std::uint8_t print);
 void RawSetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak);
 
 }  // namespace almara::test

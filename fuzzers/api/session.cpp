@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "api/session.h"
 
-#include <cstdlib>
 #include <ctime>
 #include <string>
 
@@ -89,7 +88,11 @@ void Session::CallSetter(Input& input) {
 void Session::CallFlagSetter(Input& input) {
   const std::uint8_t flag = input.Byte();
   const bool isSet = (flag & 1U) != 0;
-  switch (input.Byte() % 4U) {
+  switch (input.Byte() % 5U) {
+    case 4:
+      RawSetPrintBoard(flag);
+      m_options.printBoard = isSet;
+      break;
     case 0:
       RawSetHideBreakDay(flag);
       m_options.hideBreakDay = isSet;
@@ -164,7 +167,11 @@ void Session::GotoDate(Input& input) {
 }
 
 void Session::CallGetter(Input& input) {
-  switch (input.Byte() % 8U) {
+  switch (input.Byte() % 9U) {
+    case 8:
+      ForgetAnnotations();  // Check() sees that the board stays
+      ReleaseText(nullptr);
+      break;
     case 0: {
       const std::int32_t a = input.Raw();
       const std::int32_t b = input.Raw();
@@ -225,6 +232,7 @@ void Session::CheckOptions() const {
   ALMARA_CHECK(GetHideBreakDay() == m_options.hideBreakDay);
   ALMARA_CHECK(GetShowMonthInterval() == m_options.hideBreakDay);
   ALMARA_CHECK(GetShowBreakDayOfWeek() == m_options.showBreakDay);
+  ALMARA_CHECK(GetPrintBoard() == m_options.printBoard);
   ALMARA_CHECK(GetWeekNumberCalcType() == m_options.calcType);
   for (std::int32_t day = 0; day < kDaysInRow; ++day) {
     ALMARA_CHECK(IsBreakDayOfWeek(day) == m_options.breakDay[static_cast<std::size_t>(day)]);
@@ -249,7 +257,7 @@ void Session::CheckConfigKey() const {
 
   char* const key = GetConfigKey();
   ALMARA_CHECK(key != nullptr && expected == key);
-  std::free(key);
+  ReleaseText(key);
 }
 
 void Session::CheckKinds() const {

@@ -21,6 +21,7 @@ struct Options {
   bool hideBreakDay = false;
   bool monthInterval = true;
   bool showBreakDay = true;
+  bool printBoard = true;
   EWeekNumberCalc calcType = eWeekNumberCalcIso8601;
   std::array<bool, kDaysInRow> breakDay{true, false, false, false, false, false, true};
 };

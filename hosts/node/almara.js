@@ -152,6 +152,7 @@ const constants = {
 };
 
 const functions = `
+const char* GetLibraryVersion(void);
 int32_t native_add(int32_t a, int32_t b);
 CCalendarSolarDate CreateSolarDate(int32_t year, int32_t month, int32_t day, int32_t week);
 void InitCalendarLogicDt(int32_t language);
@@ -195,6 +196,10 @@ void SetWeekNumberCalcType(EWeekNumberCalc type);
 void SetBreakDayOfWeek(int32_t dayOfWeek, bool isBreak);
 bool IsBreakDayOfWeek(int32_t dayOfWeek);
 char* GetConfigKey(void);
+void ReleaseText(char* text);
+void ForgetAnnotations(void);
+void SetPrintBoard(bool print);
+bool GetPrintBoard(void);
 EAlmanacCalendar AlmanacCalendarAtOffset(int32_t minutes);
 EAlmanacCalendar AlmanacCalendarOfLanguage(ELanguage language);
 CCalendarLunarDate AlmanacLunarDate(EAlmanacCalendar calendar, CCalendarSolarDate date);
@@ -225,9 +230,9 @@ for (const name of new Set(functions.match(/\bE[A-Z]\w+/g))) {
 function load(path = 'libalmara.so.1') {
   const library = koffi.load(path);
   const calls = {};
-  for (const [prototype, name] of functions.matchAll(/\S+ (\w+)\(.*\)/g)) {
+  for (const [prototype, name] of functions.matchAll(/(?:const )?\S+ (\w+)\(.*\)/g)) {
     // The "!" releases the text that the caller owns.
-    calls[name] = library.func(prototype.replace('char* ', 'str! '));
+    calls[name] = library.func(prototype.replace(/^char\* /, 'str! '));
   }
   return calls;
 }

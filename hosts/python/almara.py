@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 """The calendar engine for Python: load() gives the library with every function ready to call.
 
-Records travel by value, bools are bools, and GetConfigKey() returns a str. The functions, records
+Records travel by value, bools are bools, and texts are str; GetConfigKey() releases its own. The functions, records
 and constants are documented in <almara/almara.h>.
 """
 import ctypes
@@ -9,7 +9,7 @@ import re
 
 
 _TYPES = {"void": None, "int32_t": ctypes.c_int32, "bool": ctypes.c_bool,
-          "char*": ctypes.c_void_p}
+          "char*": ctypes.c_void_p, "const char*": ctypes.c_char_p}
 
 
 def _record(name, fields):
@@ -164,6 +164,7 @@ eAlmanacAnniversaryLeapMonthOnly = 1
 eAlmanacAnniversaryDay30Only = 2
 
 _FUNCTIONS = """
+const char* GetLibraryVersion(void);
 int32_t native_add(int32_t a, int32_t b);
 CCalendarSolarDate CreateSolarDate(int32_t year, int32_t month, int32_t day, int32_t week);
 void InitCalendarLogicDt(int32_t language);
@@ -207,6 +208,10 @@ void SetWeekNumberCalcType(EWeekNumberCalc type);
 void SetBreakDayOfWeek(int32_t dayOfWeek, bool isBreak);
 bool IsBreakDayOfWeek(int32_t dayOfWeek);
 char* GetConfigKey(void);
+void ReleaseText(char* text);
+void ForgetAnnotations(void);
+void SetPrintBoard(bool print);
+bool GetPrintBoard(void);
 EAlmanacCalendar AlmanacCalendarAtOffset(int32_t minutes);
 EAlmanacCalendar AlmanacCalendarOfLanguage(ELanguage language);
 CCalendarLunarDate AlmanacLunarDate(EAlmanacCalendar calendar, CCalendarSolarDate date);
@@ -225,14 +230,9 @@ EFestivalLunar AlmanacLunarFestival(EAlmanacCalendar calendar, ELanguage languag
 """
 # --- end
 
-_free = ctypes.CDLL(None).free
-_free.argtypes = [ctypes.c_void_p]
 
-
-def _take_text(address, _function, _arguments):
-    text = ctypes.string_at(address).decode() if address else None
-    _free(address)
-    return text
+def _read_text(text, _function, _arguments):
+    return text.decode() if text is not None else None
 
 
 def _type(name):
@@ -244,11 +244,18 @@ def load(path="libalmara.so.1"):
     """The engine. Without a path the library is looked for as the dynamic linker does it: in the
     folders of LD_LIBRARY_PATH, then where the system has its libraries."""
     library = ctypes.CDLL(path)
-    for result, name, arguments in re.findall(r"(\S+) (\w+)\((.*)\);", _FUNCTIONS):
+    for result, name, arguments in re.findall(r"(const char\*|\S+) (\w+)\((.*)\);", _FUNCTIONS):
         function = getattr(library, name)
         function.restype = _type(result)
         function.argtypes = [_type(argument.split()[0]) for argument in arguments.split(", ")
                              if argument != "void"]
-        if result == "char*":
-            function.errcheck = _take_text
+        if result == "const char*":
+            function.errcheck = _read_text
+
+    def take_text(address, _function, _arguments):
+        text = ctypes.string_at(address).decode() if address else None
+        library.ReleaseText(address)
+        return text
+
+    library.GetConfigKey.errcheck = take_text
     return library

@@ -17,7 +17,7 @@
  *     IsTodayInBoard() serve the title and a button that returns to today.
  *   - Annotate the dates on it: ConverterLunarWithDate(), Check24SekkiWithDate(),
  *     CheckFestivalSolarWithLang(), CheckFestivalLunarWithLang(). Never ask before
- *     InitCalendarLogicDt(): answers are kept for good, and the zone is not known yet.
+ *     InitCalendarLogicDt(): answers are kept, and the zone is not known yet.
  *   - Move: GotoPreviousPage(), GotoNextPage(), GotoToday(), GotoSpecifiedDate(),
  *     GotoTodayOffset(). Each builds another board to draw.
  *
@@ -37,7 +37,7 @@
  * without a limit, one for each distinct date and language asked.
  *
  * Output: every board build writes the board as text to the standard output, and GotoTodayOffset()
- * writes the date it went to.
+ * writes the date it went to, unless SetPrintBoard(false) has switched that off.
  */
 #ifndef ALMARA_ALMARA_H_
 #define ALMARA_ALMARA_H_
@@ -63,6 +63,12 @@ extern "C" {
 #endif
 
 /* ---- Bridge checks --------------------------------------------------------------------------- */
+
+/**
+ * The version of the library that was loaded, for example "1.1.0"; the macros above are those of
+ * the header a host was built with. A static text, never to be freed. Since 1.1.
+ */
+ALMARA_EXPORT const char* GetLibraryVersion(void);
 
 /**
  * Returns a + b in 32-bit wrapping arithmetic: 2147483647 + 1 is -2147483648. A host uses it to see
@@ -220,8 +226,9 @@ ALMARA_EXPORT bool IsTodayInBoard(void);
    - Lunar dates and solar terms are those of the zone that InitCalendarLogicDt() fixed, whole hours
      from universal time: the civil day that holds the new moon or the term counts. Before the zone
      is known they mean nothing, so initialise first.
-   - Answers are kept for good. The first answer for a date (of a festival: for a language and date)
-     is what every later call gets, also after InitCalendarLogicDt() has changed the zone.
+   - Answers are kept until ForgetAnnotations(). The first answer for a date (of a festival: for a
+     language and date) is what every later call gets, also after InitCalendarLogicDt() has changed
+     the zone.
    - A date asked for the first time is worked out, and most of that work serves the dates around
      it; a date asked again is only looked up. */
 
@@ -380,7 +387,8 @@ ALMARA_EXPORT EWeekNumberCalc GetWeekNumberCalcType(void);
  *
  * All rules but 1 count days by the seconds of local time since 1 January. From the day the clocks
  * go forward until they go back, dates come out one day short: in Berlin, 1 April 2024, a
- * Monday, is still in week 13. The first answer for a date is kept for good.
+ * Monday, is still in week 13. The first answer for a date is kept until
+ * ForgetAnnotations().
  */
 ALMARA_EXPORT void SetWeekNumberCalcType(EWeekNumberCalc type);
 
@@ -403,10 +411,37 @@ ALMARA_EXPORT bool IsBreakDayOfWeek(int32_t dayOfWeek);
  * rule for week numbers, month intervals, in parentheses the break days from Monday to Sunday, and
  * whether break days are shown.
  *
- * @return a new NUL-terminated text that the caller owns and releases with free(), or NULL if there
- *     is no memory for it
+ * @return a new NUL-terminated text that the caller owns and releases with ReleaseText() or the C
+ *     library's free(), or NULL if there is no memory for it
  */
 ALMARA_EXPORT char* GetConfigKey(void);
+
+/**
+ * Releases a text that GetConfigKey() returned, for hosts without the C library's free() at hand.
+ * NULL is ignored; any other pointer must come from GetConfigKey() and be released once. Since 1.1.
+ */
+ALMARA_EXPORT void ReleaseText(char* text);
+
+/* ---- Kept answers and output ------------------------------------------------------------------
+ */
+
+/**
+ * Forgets every kept answer, week numbers included, the year of Easter that
+ * CheckFestivalSolarWithLang() remembers, and the zone: what is asked from here on is answered as
+ * in a process that has just loaded the library. For a change of language at run time, and for a
+ * host whose own side starts afresh. Options and the board stay as they are; call
+ * InitCalendarLogicDt() next, which fixes the zone again. Since 1.1.
+ */
+ALMARA_EXPORT void ForgetAnnotations(void);
+
+/**
+ * Sets whether builds and GotoTodayOffset() write to the standard output; true by default. Switch
+ * it off unless the text is wanted, before the first board. No part of GetConfigKey(). Since 1.1.
+ */
+ALMARA_EXPORT void SetPrintBoard(bool print);
+
+/** Whether builds and GotoTodayOffset() write to the standard output. Since 1.1. */
+ALMARA_EXPORT bool GetPrintBoard(void);
 
 #ifdef __cplusplus
 }

@@ -447,6 +447,20 @@ class AlmaraBindings {
   late final _CreateSolarDate = _CreateSolarDatePtr
       .asFunction<CCalendarSolarDate Function(int, int, int, int)>(isLeaf: true);
 
+  /// Forgets every kept answer, week numbers included, the year of Easter that
+  /// CheckFestivalSolarWithLang() remembers, and the zone: what is asked from here on is answered as
+  /// in a process that has just loaded the library. For a change of language at run time, and for a
+  /// host whose own side starts afresh. Options and the board stay as they are; call
+  /// InitCalendarLogicDt() next, which fixes the zone again. Since 1.1.
+  void ForgetAnnotations() {
+    return _ForgetAnnotations();
+  }
+
+  late final _ForgetAnnotationsPtr =
+      _lookup<ffi.NativeFunction<ffi.Void Function()>>('ForgetAnnotations');
+  late final _ForgetAnnotations = _ForgetAnnotationsPtr
+      .asFunction<void Function()>();
+
   /// The day of the week to head a visible column with.
   ///
   /// @param column 0 to GetContentColumns() - 1
@@ -471,8 +485,8 @@ class AlmaraBindings {
   /// rule for week numbers, month intervals, in parentheses the break days from Monday to Sunday, and
   /// whether break days are shown.
   ///
-  /// @return a new NUL-terminated text that the caller owns and releases with free(), or NULL if there
-  ///     is no memory for it
+  /// @return a new NUL-terminated text that the caller owns and releases with ReleaseText() or the C
+  ///     library's free(), or NULL if there is no memory for it
   ffi.Pointer<ffi.Char> GetConfigKey() {
     return _GetConfigKey();
   }
@@ -557,6 +571,19 @@ class AlmaraBindings {
   late final _GetHideBreakDay = _GetHideBreakDayPtr
       .asFunction<bool Function()>(isLeaf: true);
 
+  /// The version of the library that was loaded, for example "1.1.0"; the macros above are those of
+  /// the header a host was built with. A static text, never to be freed. Since 1.1.
+  ffi.Pointer<ffi.Char> GetLibraryVersion() {
+    return _GetLibraryVersion();
+  }
+
+  late final _GetLibraryVersionPtr =
+      _lookup<ffi.NativeFunction<ffi.Pointer<ffi.Char> Function()>>(
+        'GetLibraryVersion',
+      );
+  late final _GetLibraryVersion = _GetLibraryVersionPtr
+      .asFunction<ffi.Pointer<ffi.Char> Function()>(isLeaf: true);
+
   /// Week rows of arrangements 1 and 2; 5 by default.
   int GetMaxRow() {
     return _GetMaxRow();
@@ -576,6 +603,16 @@ class AlmaraBindings {
       _lookup<ffi.NativeFunction<ffi.Int32 Function()>>('GetPassedWeeks');
   late final _GetPassedWeeks = _GetPassedWeeksPtr
       .asFunction<int Function()>(isLeaf: true);
+
+  /// Whether builds and GotoTodayOffset() write to the standard output. Since 1.1.
+  bool GetPrintBoard() {
+    return _GetPrintBoard();
+  }
+
+  late final _GetPrintBoardPtr =
+      _lookup<ffi.NativeFunction<ffi.Bool Function()>>('GetPrintBoard');
+  late final _GetPrintBoard = _GetPrintBoardPtr
+      .asFunction<bool Function()>(isLeaf: true);
 
   /// Whether break-day columns are shown; true by default.
   bool GetShowBreakDayOfWeek() {
@@ -798,6 +835,19 @@ class AlmaraBindings {
   late final _IsTodayInBoard = _IsTodayInBoardPtr
       .asFunction<bool Function()>(isLeaf: true);
 
+  /// Releases a text that GetConfigKey() returned, for hosts without the C library's free() at hand.
+  /// NULL is ignored; any other pointer must come from GetConfigKey() and be released once. Since 1.1.
+  void ReleaseText(ffi.Pointer<ffi.Char> text) {
+    return _ReleaseText(text);
+  }
+
+  late final _ReleaseTextPtr =
+      _lookup<ffi.NativeFunction<ffi.Void Function(ffi.Pointer<ffi.Char>)>>(
+        'ReleaseText',
+      );
+  late final _ReleaseText = _ReleaseTextPtr
+      .asFunction<void Function(ffi.Pointer<ffi.Char>)>();
+
   /// Marks a day of the week as break day or takes the mark away. By default Saturday and Sunday are
   /// marked.
   ///
@@ -865,6 +915,17 @@ class AlmaraBindings {
   late final _SetPassedWeeks = _SetPassedWeeksPtr
       .asFunction<void Function(int)>(isLeaf: true);
 
+  /// Sets whether builds and GotoTodayOffset() write to the standard output; true by default. Switch
+  /// it off unless the text is wanted, before the first board. No part of GetConfigKey(). Since 1.1.
+  void SetPrintBoard(bool print) {
+    return _SetPrintBoard(print);
+  }
+
+  late final _SetPrintBoardPtr =
+      _lookup<ffi.NativeFunction<ffi.Void Function(ffi.Bool)>>('SetPrintBoard');
+  late final _SetPrintBoard = _SetPrintBoardPtr
+      .asFunction<void Function(bool)>(isLeaf: true);
+
   /// Sets whether break-day columns, and rows left without content, are shown. Columns are hidden by
   /// their place: the start day of week heads the first one. A day strip begins on any weekday, so
   /// there the columns hidden are not those of the break days; do not hide break days in a strip.
@@ -923,7 +984,8 @@ class AlmaraBindings {
   ///
   /// All rules but 1 count days by the seconds of local time since 1 January. From the day the clocks
   /// go forward until they go back, dates come out one day short: in Berlin, 1 April 2024, a
-  /// Monday, is still in week 13. The first answer for a date is kept for good.
+  /// Monday, is still in week 13. The first answer for a date is kept until
+  /// ForgetAnnotations().
   void SetWeekNumberCalcType(int type) {
     return _SetWeekNumberCalcType(type);
   }

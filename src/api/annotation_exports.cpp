@@ -32,3 +32,5 @@ EFestivalLunar CheckFestivalLunarWithLang(ELanguage language, CCalendarSolarDate
   return almara::Ask(&CCalendarLogic::CheckFestivalLunar, eFestivalLunarNone, language,
                      WithoutDayOfWeek(date));
 }
+
+void ForgetAnnotations() { almara::Tell(&CCalendarLogic::ForgetAnnotations); }

@@ -29,6 +29,10 @@ ALMARA_EXPORT void SetShowBreakDayOfWeek(std::uint8_t show) {
   almara::Tell(&CCalendarLogic::SetShowBreakDayOfWeek, LowestBit(show));
 }
 
+ALMARA_EXPORT void SetPrintBoard(std::uint8_t print) {
+  almara::Tell(&CCalendarLogic::SetPrintBoard, LowestBit(print));
+}
+
 ALMARA_EXPORT void SetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak) {
   almara::Tell(&CCalendarLogic::SetBreakDayOfWeek, dayOfWeek, LowestBit(isBreak));
 }

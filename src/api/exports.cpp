@@ -14,6 +14,8 @@
 using almara::Ask;
 using almara::Tell;
 
+const char* GetLibraryVersion() { return ALMARA_VERSION_STRING; }
+
 std::int32_t native_add(std::int32_t a, std::int32_t b) { return almara::WrapAdd(a, b); }
 
 CCalendarSolarDate CreateSolarDate(std::int32_t year, std::int32_t month, std::int32_t day,
@@ -123,3 +125,8 @@ char* GetConfigKey() {
   }
   return copy;
 }
+
+// NOLINTNEXTLINE(cppcoreguidelines-no-malloc): what GetConfigKey() allocated.
+void ReleaseText(char* text) { std::free(text); }
+
+bool GetPrintBoard() { return Ask(&CCalendarLogic::IsPrintBoard, false); }

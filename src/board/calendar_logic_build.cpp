@@ -28,7 +28,9 @@ void CCalendarLogicBuild::_BuildToday() {
 
 void CCalendarLogicBuild::_Build(const almara::BoardRequest& request) {
   m_board = almara::BuildBoard(request, std::exchange(m_board, {}).content, m_weekNumber);
-  almara::WriteBoard(m_board.content.rows);
+  if (m_printBoard) {
+    almara::WriteBoard(m_board.content.rows);
+  }
 }
 
 int CCalendarLogicBuild::_BuildContent(int year, int month, int day,

@@ -28,6 +28,11 @@ class CCalendarLogicBuild : public CCalendarConfig {
   // Builds today's board in the same way, as a plain build.
   void _BuildToday();
 
+  // Whether boards, and the date that an offset leads to, are written to the standard output; true
+  // by default. No part of the options' key.
+  void SetPrintBoard(bool print) { m_printBoard = print; }
+  bool IsPrintBoard() const { return m_printBoard; }
+
   // The single steps of a build, and two facts of the calendar. The engine builds boards without
   // them; they are described parts of this class, which tests from outside are written against.
 
@@ -64,6 +69,7 @@ class CCalendarLogicBuild : public CCalendarConfig {
 
   almara::BuiltBoard m_board;
   CCalendarWeekNumber m_weekNumber;  // keeps its answers from build to build
+  bool m_printBoard = true;
 
  private:
   // Under mtx.

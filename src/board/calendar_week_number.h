@@ -14,9 +14,11 @@
 class CCalendarWeekNumber {
  public:
   // The week number under calcType; a type other than 1 counts from 1 January. Its answers, -1
-  // included, are kept for good, also when the process's time zone changes; ISO weeks depend on
-  // nothing but the date.
+  // included, are kept until ForgetAnswers(), also when the process's time zone changes; ISO weeks
+  // depend on nothing but the date.
   int GetWeekNumber(int year, int month, int day, EWeekNumberCalc calcType);
+
+  void ForgetAnswers() { m_mapWeekNumberCache.Clear(); }
 
   // ISO 8601 week, 1 to 53.
   int _GetWeekNumber(int year, int month, int day) const;

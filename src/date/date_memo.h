@@ -13,9 +13,9 @@
 
 namespace almara {
 
-// The answers given so far about dates, kept for good. A question is a variant (a language, a rule)
-// and a date's year, month and day, each any int; the day of week is no part of it. The memo grows
-// with every new question and never forgets. Not to be used from two threads at once.
+// The answers given so far about dates, kept until Clear(). A question is a variant (a language, a
+// rule) and a date's year, month and day, each any int; the day of week is no part of it. The memo
+// grows with every new question. Not to be used from two threads at once.
 //
 // The days 0 to 31 of a month share a page, because whoever asks about one day of a month asks
 // about the others; the page asked last is found without a search.
@@ -47,6 +47,12 @@ class DateMemo {
         block != m_blocks.end() ? block->second[SlotOfMonth(key)].get() : nullptr;
     const std::size_t slot = SlotOf(date);
     return page != nullptr && page->Keeps(slot) ? &page->answers[slot] : nullptr;
+  }
+
+  // Forgets every answer and gives its memory back.
+  void Clear() {
+    m_blocks.clear();
+    m_lastPage = nullptr;
   }
 
   // Number of answers kept.

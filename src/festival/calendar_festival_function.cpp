@@ -65,6 +65,9 @@ struct EasterCache {
 
 EasterCache easterCache;
 
+// What the rule of Good Friday answered last.
+MonthDay goodFriday{kNotComputed, kNotComputed};
+
 // The Friday at or before a date. A date that the system cannot convert gives all zeroes.
 CCalendarSolarDate FridayBefore(CCalendarSolarDate date) {
   const almara::DayRun run(date.year, date.month, date.day);
@@ -110,13 +113,11 @@ int CCalendarFestivalFunction::_GetEasterDay2(int year, int* month, int* day) {
 }
 
 int CCalendarFestivalFunction::_GetGoodFriday(int year, int* month, int* day) {
-  static std::int32_t suGoodFridayMonth = kNotComputed;
-  static std::int32_t suGoodFridayDay = kNotComputed;
   if (month == nullptr || day == nullptr) {
     return 0;
   }
-  if (suGoodFridayDay == year && suGoodFridayMonth != kNotComputed) {
-    *month = suGoodFridayMonth;
+  if (goodFriday.day == year && goodFriday.month != kNotComputed) {
+    *month = goodFriday.month;
     *day = year;
     return 1;
   }
@@ -125,11 +126,15 @@ int CCalendarFestivalFunction::_GetGoodFriday(int year, int* month, int* day) {
   }
   const CCalendarSolarDate friday =
       FridayBefore({year, easterCache.suEasterMonth, easterCache.suEasterDay, 0});
-  suGoodFridayMonth = friday.month;
-  suGoodFridayDay = friday.day;
-  *month = suGoodFridayMonth;
-  *day = suGoodFridayDay;
+  goodFriday = {friday.month, friday.day};
+  *month = goodFriday.month;
+  *day = goodFriday.day;
   return 1;
+}
+
+void almara::ForgetFeasts() {
+  easterCache = {};
+  goodFriday = {kNotComputed, kNotComputed};
 }
 
 // ---- Interface that nothing in the library calls ----

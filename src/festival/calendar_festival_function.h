@@ -40,4 +40,11 @@ class CCalendarFestivalFunction {
   static int _GetEasterDay(int year, int* month, int* day);
 };
 
+namespace almara {
+
+// Makes the Easter and Good Friday rules of the look-ups forget what they computed last.
+void ForgetFeasts();
+
+}  // namespace almara
+
 #endif  // ALMARA_FESTIVAL_CALENDAR_FESTIVAL_FUNCTION_H_

@@ -9,6 +9,7 @@
 #include "date/calendar_platform_api.h"
 #include "date/gregorian.h"
 #include "date/int32.h"
+#include "festival/calendar_festival_function.h"
 
 using almara::kDaysOfWeek;
 using almara::kMonthsOfYear;
@@ -34,8 +35,8 @@ std::int32_t ZoneOfLanguage(ELanguage language) {
   }
 }
 
-// Sets the zone of lunar dates and solar terms, here and nowhere else: to the one given, or, while
-// no zone is known, to the machine's.
+// Sets the zone of lunar dates and solar terms: to the one given, or, while no zone is known, to
+// the machine's. Nothing else sets it, and only ForgetAnnotations() takes it back.
 void SetZone(std::int32_t hours) {
   if (hours != kTimeZoneUnknown) {
     g_mac_timezone = hours;
@@ -63,14 +64,6 @@ int FloorDivide(int value, int divisor) { return value / divisor - (value % divi
 int FloorModulo(int value, int divisor) {
   const int remainder = value % divisor;
   return remainder < 0 ? remainder + divisor : remainder;
-}
-
-// Writes the prefix and "year-month-day", fields unpadded, without a line end.
-void WriteTrace(const char* prefix, const CCalendarSolarDate& date) {
-  char text[64];
-  const int length =
-      std::snprintf(text, sizeof text, "%s%d-%d-%d", prefix, date.year, date.month, date.day);
-  almara::WriteToStandardOutput({text, static_cast<std::size_t>(length)});
 }
 
 }  // namespace
@@ -108,6 +101,17 @@ void CCalendarLogic::_Show(const CCalendarSolarDate& date) {
     SetZone(kTimeZoneUnknown);
   }
   _BuildCalendar(date.year, date.month, date.day, m_pageDirection);
+}
+
+// Writes the prefix and "year-month-day", fields unpadded, without a line end.
+void CCalendarLogic::_WriteTrace(const char* prefix, const CCalendarSolarDate& date) const {
+  if (!IsPrintBoard()) {
+    return;
+  }
+  char text[64];
+  const int length =
+      std::snprintf(text, sizeof text, "%s%d-%d-%d", prefix, date.year, date.month, date.day);
+  almara::WriteToStandardOutput({text, static_cast<std::size_t>(length)});
 }
 
 bool CCalendarLogic::_PagesByMonth() const {
@@ -181,7 +185,7 @@ void CCalendarLogic::_GotoMonthOffset(const CCalendarSolarDate& today, int offse
   const int month = FloorModulo(monthsFromStart, kMonthsOfYear) + 1;
   const int day = std::min(today.day, almara::DaysOfBoardMonth(year, month));
   const CCalendarSolarDate date{year, month, day, 0};
-  WriteTrace("", date);
+  _WriteTrace("", date);
   _Show(date);
 }
 
@@ -189,7 +193,7 @@ void CCalendarLogic::_GotoPageOffset(const CCalendarSolarDate& today, int offset
   const int days = WrapMultiply(WrapMultiply(kDaysOfWeek, GetMaxRows()), offset);
   const CCalendarSolarDate date = CalendarPlatformApi::GetNewDateByOffsetDays(today, days);
   m_pageDirection = PageDirection::kNone;
-  WriteTrace("build-logic ", date);
+  _WriteTrace("build-logic ", date);
   _Show(date);
 }
 
@@ -220,3 +224,14 @@ tagCalendarWeekSpan CCalendarLogic::GetWeekNumberItem(int index) const {
 }
 
 CCalendarSolarDate CCalendarLogic::GetToday() const { return Today(); }
+
+void CCalendarLogic::ForgetAnnotations() {
+  m_mapLunarDateCache.Clear();
+  m_map24SekkiCache.Clear();
+  m_mapFestivalSolarCache.Clear();
+  m_mapFestivalLunarCache.Clear();
+  m_weekNumber.ForgetAnswers();
+  m_lunarMemo = {};
+  almara::ForgetFeasts();
+  g_mac_timezone = kTimeZoneUnknown;
+}

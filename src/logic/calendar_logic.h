@@ -73,11 +73,15 @@ class CCalendarLogic : public CCalendarLogicBuild {
 
   // The annotation of a date (annotation_lookups.cpp). Every int is accepted and nothing is
   // checked; the day of the week does not matter. The first answer for a date, or for a language
-  // and date, is kept for good, whatever the zone becomes.
+  // and date, is kept until ForgetAnnotations(), whatever the zone becomes.
   CCalendarLunarDate ConverterLunar(CCalendarSolarDate date);
   ESolarKyureki24 Check24Sekki(CCalendarSolarDate date);
   EFestivalSolar CheckFestivalSolar(ELanguage language, CCalendarSolarDate date);
   EFestivalLunar CheckFestivalLunar(ELanguage language, CCalendarSolarDate date);
+
+  // Forgets every kept answer, week numbers included, what the Easter rules remember, and the zone,
+  // as if the library had just been loaded. Options and board stay.
+  void ForgetAnnotations();
 
  protected:
   // State of the navigation alone; stays in force until it is set again.
@@ -98,6 +102,7 @@ class CCalendarLogic : public CCalendarLogicBuild {
 
  private:
   void _Show(const CCalendarSolarDate& date);
+  void _WriteTrace(const char* prefix, const CCalendarSolarDate& date) const;
   almara::PageDirection _DirectionTo(const CCalendarSolarDate& date) const;
   bool _PagesByMonth() const;
   void _GotoMonthOffset(const CCalendarSolarDate& today, int offset);

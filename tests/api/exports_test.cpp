@@ -274,6 +274,70 @@ TEST_F(Exports, BoardAndTraceAreWrittenInOrder) {
   EXPECT_EQ(m_output.Take(), "build-logic 2024-3-13" + strip + strip + "host" + strip);
 }
 
+TEST_F(Exports, PrintingIsOnUntilItIsSwitchedOff) {
+  EXPECT_TRUE(GetPrintBoard());
+  SetPrintBoard(false);
+  EXPECT_FALSE(GetPrintBoard());
+  InitCalendarLogicDt(eLanguageChs);
+  GotoTodayOffset(1);
+  GotoSpecifiedDate(2100, 1, 1);
+  EXPECT_EQ(m_output.Take(), "");
+  EXPECT_EQ(GetContentRows(), 5);
+  EXPECT_EQ(Key(), kDefaultKey);
+  SetPrintBoard(true);
+  GotoTodayOffset(1);
+  EXPECT_EQ(m_output.Take().rfind("build-logic 2024-4-17", 0), 0U);
+}
+
+TEST_F(Exports, ForgettingStartsAfreshWithTheZone) {
+  const CCalendarSolarDate date{2051, 11, 3, 0};  // day 30 of month 9 or day 1 of month 10
+  InitCalendarLogicDt(eLanguageChs);
+  EXPECT_EQ(ConverterLunarWithDate(date).day, 1);
+  InitCalendarLogicDt(eLanguageKor);
+  EXPECT_EQ(ConverterLunarWithDate(date).day, 1);
+  ForgetAnnotations();
+  InitCalendarLogicDt(eLanguageUsa);  // fixes no zone, so that the machine's counts again
+  EXPECT_EQ(ConverterLunarWithDate({2024, 2, 10, 0}).day, 2);
+  ForgetAnnotations();
+  InitCalendarLogicDt(eLanguageKor);
+  EXPECT_EQ(ConverterLunarWithDate(date).day, 30);
+}
+
+TEST_F(Exports, ForgettingForgetsTermsFestivalsAndTheYearOfEaster) {
+  const CCalendarSolarDate term{2024, 6, 21, 0};
+  const CCalendarSolarDate easter{2024, 3, 31, 0};
+  InitCalendarLogicDt(eLanguageChs);
+  EXPECT_EQ(Check24SekkiWithDate(term), eSekkiSummerSolstice);
+  CheckFestivalSolarWithLang(eLanguageUsa, {2024, 3, 1, 0});
+  EXPECT_EQ(CheckFestivalSolarWithLang(eLanguageUsa, easter), eFestivalSolarEaster);
+  EXPECT_EQ(CheckFestivalLunarWithLang(eLanguageChs, {2024, 2, 10, 0}), eFestivalLunarNewYearsDay);
+  ForgetAnnotations();
+  InitCalendarLogicDt(eLanguageUsa);
+  EXPECT_EQ(Check24SekkiWithDate(term), eSekkiNone);  // the day before, in UTC
+  EXPECT_EQ(CheckFestivalSolarWithLang(eLanguageUsa, easter), eFestivalSolarNone);
+  EXPECT_EQ(CheckFestivalLunarWithLang(eLanguageChs, {2024, 2, 10, 0}), eFestivalLunarNone);
+}
+
+TEST_F(Exports, ForgettingLeavesOptionsAndBoard) {
+  SetMaxRow(3);
+  InitCalendarLogicDt(eLanguageChs);
+  const std::string cell = Text(GetContentItem(1, 2));
+  ForgetAnnotations();
+  EXPECT_EQ(GetContentRows(), 3);
+  EXPECT_EQ(Text(GetContentItem(1, 2)), cell);
+  EXPECT_EQ(GetMaxRow(), 3);
+}
+
+TEST_F(Exports, VersionIsThatOfTheHeader) {
+  EXPECT_STREQ(GetLibraryVersion(), ALMARA_VERSION_STRING);
+  EXPECT_EQ(GetLibraryVersion(), GetLibraryVersion());  // one static text
+}
+
+TEST_F(Exports, ReleasesItsTexts) {
+  ReleaseText(GetConfigKey());
+  ReleaseText(nullptr);
+}
+
 TEST_F(Exports, NavigationBeforeTheFirstBuildWritesAnEmptyBoard) {
   GotoNextPage();
   EXPECT_EQ(m_output.Take(), "\n\n\n\n\n\n\n\n\n\n");

@@ -56,6 +56,7 @@ TEST_F(MissingEngine, OptionsHaveFallbacksOfTheirOwn) {
   EXPECT_EQ(GetWeekNumberCalcType(), eWeekNumberCalcIso8601);
   EXPECT_FALSE(IsBreakDayOfWeek(0));
   EXPECT_EQ(GetConfigKey(), nullptr);
+  EXPECT_FALSE(GetPrintBoard());
 }
 
 TEST_F(MissingEngine, CommandsDoNothing) {
@@ -76,11 +77,15 @@ TEST_F(MissingEngine, CommandsDoNothing) {
   SetShowBreakDayOfWeek(false);
   SetWeekNumberCalcType(eWeekNumberCalcFromJan1);
   SetBreakDayOfWeek(3, true);
+  SetPrintBoard(false);
+  ForgetAnnotations();
   EXPECT_EQ(m_engine->GetConfigKey(), "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1");
   EXPECT_EQ(m_engine->GetContentRows(), 0);
+  EXPECT_TRUE(m_engine->IsPrintBoard());
 }
 
 TEST_F(MissingEngine, ArithmeticNeedsNone) {
+  EXPECT_STREQ(GetLibraryVersion(), ALMARA_VERSION_STRING);
   EXPECT_EQ(native_add(2147483647, 1), -2147483648LL);
   EXPECT_EQ(CreateSolarDate(1, 2, 3, 4).dayOfWeek, 4);
 }

@@ -49,6 +49,8 @@ class Generator:
             return ("InitCalendarLogicDt", self.random.choice(LANGUAGES))
         if draw < 0.015:
             return ("GetToday",)
+        if draw < 0.02:
+            return ("ForgetAnnotations",)
         if draw < 0.25:
             return (LUNAR, self.date())
         if draw < 0.35:

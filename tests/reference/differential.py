@@ -154,6 +154,7 @@ class Generator:
             "SetShowMonthInterval": FLAGS,
             "SetShowBreakDayOfWeek": FLAGS,
             "SetHideBreakDay": FLAGS,
+            "SetPrintBoard": FLAGS,
         }
         name = self.pick((*values, "SetDispMonth", "SetBreakDayOfWeek", "SetBreakDayOfWeek"))
         if name == "SetBreakDayOfWeek":
@@ -207,6 +208,8 @@ class Generator:
     def plain_value(self):
         """A call that has nothing to do with the board."""
         values = [self.random.randrange(-(1 << 31), 1 << 31) for _ in range(4)]
+        if self.random.random() < 0.3:
+            return ("ForgetAnnotations",)
         if self.random.random() < 0.5:
             return ("native_add", *values[:2])
         return ("CreateSolarDate", *values)
@@ -231,6 +234,7 @@ GETTERS = (
     "GetHideBreakDay",
     "GetShowMonthInterval",
     "GetShowBreakDayOfWeek",
+    "GetPrintBoard",
     "GetWeekNumberCalcType",
     "GetConfigKey",
 )

@@ -25,7 +25,7 @@ RECORDS = {
 }
 SolarDateRecord = RECORDS["CCalendarSolarDate"]
 TEXT = ctypes.c_void_p
-TYPES = {"void": None, "int32_t": c_int32, "bool": c_uint8, "char*": TEXT}
+TYPES = {"void": None, "int32_t": c_int32, "bool": c_uint8, "char*": TEXT, "const char*": ctypes.c_char_p}
 TYPES.update(RECORDS)
 TYPES.update(dict.fromkeys(HEADERS.typedefs, c_int32))
 

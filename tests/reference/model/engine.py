@@ -15,7 +15,8 @@ class Engine:
 
     def __init__(self, dates=None):
         self.output = []
-        self.logic = Logic(self.output.append, dates)
+        self.prints = True
+        self.logic = Logic(lambda text: self.output.append(text) if self.prints else None, dates)
         self.options = self.logic.options
 
     def take_output(self):
@@ -54,6 +55,15 @@ class Engine:
 
     def goto_today_offset(self, offset):
         self.logic.goto_today_offset(offset)
+
+    def forget_annotations(self):
+        self.logic.forget_annotations()
+
+    def set_print_board(self, on):
+        self.prints = bool(on & 1)
+
+    def get_print_board(self):
+        return self.prints
 
     # Queries
 

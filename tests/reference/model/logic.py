@@ -5,7 +5,7 @@ from .arithmetic import date_text, remainder, wrap32
 from .board import Board
 from .cell import Cell
 from .date_list import BACKWARD, FORWARD, NO_DIRECTION, checked_month_length
-from .date_services import DateServices, SolarDate
+from .date_services import ZONE_UNKNOWN, DateServices, SolarDate
 from .festivals import Festivals
 from .layout import Span
 from .lunar import LunarConverter
@@ -31,6 +31,16 @@ class Logic:
         self.terms = {}
         self.solar_festivals = {}
         self.lunar_festivals = {}
+
+    def forget_annotations(self):
+        """Start afresh with every answer about dates and with the zone."""
+        self.converter = LunarConverter(self.dates)
+        self.solar_terms = SolarTerms(self.dates)
+        self.festivals = Festivals(self.dates, self.lunar_date)
+        for memo in (self.lunar_dates, self.terms, self.solar_festivals, self.lunar_festivals):
+            memo.clear()
+        self.board.week_numbers.answers.clear()
+        self.dates.zone_hours = ZONE_UNKNOWN
 
     # Navigation
 
