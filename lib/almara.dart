@@ -4,6 +4,7 @@
 ///
 /// ```dart
 /// final engine = AlmaraEngine.open()
+///   ..printsBoards = false
 ///   ..arrangement = Arrangement.wholeMonth
 ///   ..showsMonthIntervals = false;
 /// var board = engine.start(Region.chs);

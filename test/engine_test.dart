@@ -20,6 +20,7 @@ void main() {
     // The options belong to the process: each test says what it needs.
     setUp(() {
       engine = AlmaraEngine.open(path!)
+        ..printsBoards = false
         ..arrangement = Arrangement.wholeMonth
         ..startDayOfWeek = Weekday.monday
         ..showsMonthIntervals = false
@@ -96,7 +97,21 @@ void main() {
       );
     });
 
+    test('follows a change of region', () {
+      // The new moon of that month falls on different days in the two zones.
+      const date = CalendarDate(2051, 11, 3);
+      engine.start(Region.chs);
+      expect(engine.annotate(date).lunarDate, const LunarDate(2051, 10, 1));
+      engine.start(Region.kor);
+      expect(engine.annotate(date).lunarDate, const LunarDate(2051, 9, 30));
+    });
+
+    test('tells the version of the library', () {
+      expect(engine.libraryVersion, matches(RegExp(r'^\d+\.\d+\.\d+$')));
+    });
+
     test('options read back what was set', () {
+      expect(engine.printsBoards, isFalse);
       engine
         ..maxRows = 6
         ..passedWeeks = 2

@@ -73,8 +73,9 @@ class _MonthPageState extends State<MonthPage> {
   @override
   void initState() {
     super.initState();
-    // What a former run of the application has set outlives a hot restart.
+    // What was set before a hot restart still holds, so set all that matters.
     widget.engine
+      ..printsBoards = false
       ..arrangement = Arrangement.wholeMonth
       ..showsMonthIntervals = false;
     _take(widget.engine.start(_region));

@@ -45,8 +45,8 @@ class AlmaraEngine {
   /// a bundle, as in tests, the stand-alone `libalmara.so.1`.
   ///
   /// The library is loaded once in a process, with one engine in it. Every
-  /// object that is opened drives that engine, and what was set in it outlives
-  /// the object and a hot restart.
+  /// object that is opened drives that engine, and options outlive the object
+  /// and a hot restart.
   ///
   /// Throws [ArgumentError] where the library cannot be loaded: on every
   /// platform but Linux.
@@ -55,6 +55,10 @@ class AlmaraEngine {
 
   final AlmaraBindings _c;
   Region? _region;
+
+  /// The version of the library, for example `1.1.0`.
+  String get libraryVersion =>
+      _c.GetLibraryVersion().cast<Utf8>().toDartString();
 
   // Building and navigating.
 
@@ -67,7 +71,12 @@ class AlmaraEngine {
   /// [Region.chs] and [Region.cht] reckon in UTC+8, [Region.kor] and
   /// [Region.jpn] in UTC+9, all others in the machine's zone, in whole hours.
   /// [Region.unknown] stands for no region: common festivals only.
+  ///
+  /// May be called again with another region. Answers that were kept for
+  /// [annotate] are forgotten, those of the application before a hot restart as
+  /// well.
   Board start(Region region) {
+    _c.ForgetAnnotations();
     _c.InitCalendarLogicDt(region.code);
     _region = region;
     return board;
@@ -144,8 +153,9 @@ class AlmaraEngine {
   /// Meant for 1900 to 2099. A date outside these years, or one that does not
   /// exist, gets the fallbacks stated in `include/almara/almara.h`.
   ///
-  /// Answers are kept. [Region.usa] needs the dates of a year in order: Easter
-  /// Sunday is found unless it is the first date asked of its year.
+  /// Answers are kept until [start]. [Region.usa] needs the dates of a year in
+  /// order: Easter Sunday is found unless it is the first date asked of its
+  /// year.
   ///
   /// Throws [StateError] before [start], when the zone is not known, and
   /// [RangeError] for a field that does not fit in 32 bits.
@@ -251,6 +261,14 @@ class AlmaraEngine {
     for (final day in Weekday.values) {
       _c.SetBreakDayOfWeek(day.code, value.contains(day));
     }
+  }
+
+  /// Whether each board that is built, and each target of [goToTodayOffset], is
+  /// written to the standard output as text, too; true by default. No part of
+  /// [configKey].
+  bool get printsBoards => _c.GetPrintBoard();
+  set printsBoards(bool value) {
+    _c.SetPrintBoard(value);
   }
 
   /// A text that holds every option: two equal keys mean equal options.

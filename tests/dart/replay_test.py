@@ -105,8 +105,10 @@ class ReplayTest(unittest.TestCase):
     def test_first_board(self):
         engine, region = self.engine, re.search(r"Region _region = Region\.(\w+);", MAIN)[1]
         language = int(CONSTANTS[f"eLanguage{region.capitalize()}"])
+        engine.SetPrintBoard(False)
         engine.SetDispMonth(int(CONSTANTS["eDispMonthWholeMonth"]))
         engine.SetShowMonthInterval(False)
+        engine.ForgetAnnotations()
         engine.InitCalendarLogicDt(language)
         board = read_board(engine)
         before = len(engine.calls)
@@ -116,9 +118,10 @@ class ReplayTest(unittest.TestCase):
 
         opened = re.findall(r"\.\.(\w+ =)|\bengine\.(start|today)\b", body_of("initState", MAIN))
         self.assertEqual(["".join(each) for each in opened],
-                         ["arrangement =", "showsMonthIntervals =", "start", "today"])
+                         ["printsBoards =", "arrangement =", "showsMonthIntervals =", "start", "today"])
         self.assertEqual(engine.calls[:before],
-                         [*calls_in(body_of("arrangement =", ENGINE)),
+                         [*calls_in(body_of("printsBoards =", ENGINE)),
+                          *calls_in(body_of("arrangement =", ENGINE)),
                           *calls_in(body_of("showsMonthIntervals =", ENGINE)),
                           *calls_in(body_of("start", ENGINE)),
                           *calls_in(body_of("readBoard", BOARD))])
