@@ -42,4 +42,13 @@ if(TARGET almara-board)
   install(TARGETS almara-board RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT viewer)
   install(FILES ${PROJECT_SOURCE_DIR}/docs/man/almara-board.1
     DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT viewer)
+  if(TARGET almara_board_completions)
+    set(completions ${PROJECT_BINARY_DIR}/viewer/completions)
+    install(FILES ${completions}/bash/almara-board
+      DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT viewer)
+    install(FILES ${completions}/zsh/_almara-board
+      DESTINATION ${ALMARA_ZSH_COMPLETIONS} COMPONENT viewer)
+    install(FILES ${completions}/fish/almara-board.fish
+      DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT viewer)
+  endif()
 endif()

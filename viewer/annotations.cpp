@@ -105,6 +105,16 @@ std::string LunarDayText(const Texts& texts, const CCalendarLunarDate& lunar) {
   return FillPattern(pattern, LunarValues(texts, lunar));
 }
 
+std::string LunarDayBrief(const Texts& texts, const CCalendarLunarDate& lunar) {
+  if (lunar.month == 0) {
+    return {};
+  }
+  const char* pattern = lunar.day != 1    ? texts.lunarDayBrief
+                        : lunar.leap != 0 ? texts.lunarLeapMonthBrief
+                                          : texts.lunarMonthBrief;
+  return FillPattern(pattern, LunarValues(texts, lunar));
+}
+
 std::string LunarDateText(const Texts& texts, const CCalendarLunarDate& lunar) {
   if (lunar.month == 0) {
     return {};

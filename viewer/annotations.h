@@ -20,10 +20,10 @@ struct Annotation {
   EFestivalLunar lunarFestival = eFestivalLunarNone;
   EFestivalSolar solarFestival = eFestivalSolarNone;
 
-  bool HasName() const {
-    return solarTerm != eSekkiNone || lunarFestival != eFestivalLunarNone ||
-           solarFestival != eFestivalSolarNone;
+  bool HasFestival() const {
+    return lunarFestival != eFestivalLunarNone || solarFestival != eFestivalSolarNone;
   }
+  bool HasName() const { return solarTerm != eSekkiNone || HasFestival(); }
 };
 
 // Asks the engine, which keeps every answer. To be used once the engine is started.
@@ -54,6 +54,9 @@ std::string BriefName(const DayName& name, TextLanguage language);
 
 // The lunar day as it stands under a day: the month's name on its first day.
 std::string LunarDayText(const Texts& texts, const CCalendarLunarDate& lunar);
+
+// The same in at most five cells.
+std::string LunarDayBrief(const Texts& texts, const CCalendarLunarDate& lunar);
 
 // The whole lunar date.
 std::string LunarDateText(const Texts& texts, const CCalendarLunarDate& lunar);

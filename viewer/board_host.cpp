@@ -15,10 +15,28 @@ std::string ReadConfigKey() {
   return key ? key.get() : "";
 }
 
-std::vector<tagCalendarCell> ReadRow(int row, int columns) {
+// Of a strip, which begins on any day of the week, the engine would leave out the wrong days. So it
+// builds the strip with all its days, and the columns are left out where the board is read.
+bool EngineHidesBreakDays(const BoardOptions& options) {
+  return options.hideBreakDays && options.mode != eDispMonthDayStrip;
+}
+
+// The visible columns that the board keeps.
+std::vector<int> ReadColumns(const BoardOptions& options) {
+  std::vector<int> columns;
+  const bool hidesHere = options.hideBreakDays && !EngineHidesBreakDays(options);
+  for (int column = 0; column < GetContentColumns(); ++column) {
+    if (!hidesHere || !IsBreakDayOfWeek(GetCalendarWeekByColumns(column))) {
+      columns.push_back(column);
+    }
+  }
+  return columns;
+}
+
+std::vector<tagCalendarCell> ReadRow(int row, const std::vector<int>& columns) {
   std::vector<tagCalendarCell> cells;
-  cells.reserve(static_cast<std::size_t>(columns));
-  for (int column = 0; column < columns; ++column) {
+  cells.reserve(columns.size());
+  for (const int column : columns) {
     cells.push_back(GetContentItem(row, column));
   }
   return cells;
@@ -56,7 +74,7 @@ void ApplyOptions(const BoardOptions& options) {
   SetWeekNumberCalcType(options.weekRule);
   SetShowMonthInterval(options.monthIntervals);
   SetHideBreakDay(options.hideBreakDays);
-  SetShowBreakDayOfWeek(!options.hideBreakDays);
+  SetShowBreakDayOfWeek(!EngineHidesBreakDays(options));
   for (int day = eCalendarWeekSunday; day <= eCalendarWeekSaturday; ++day) {
     SetBreakDayOfWeek(day, options.breakDays[static_cast<std::size_t>(day)]);
   }
@@ -100,9 +118,9 @@ BoardSnapshot ReadBoard(const BoardOptions& asked) {
   BoardSnapshot board;
   board.options = ReadOptions(asked);
   board.hideBreakDay = GetHideBreakDay();
-  board.showBreakDayOfWeek = GetShowBreakDayOfWeek();
-  const int columns = GetContentColumns();
-  for (int column = 0; column < columns; ++column) {
+  board.showBreakDayOfWeek = GetShowBreakDayOfWeek() && !board.options.hideBreakDays;
+  const std::vector<int> columns = ReadColumns(board.options);
+  for (const int column : columns) {
     board.headings.push_back(GetCalendarWeekByColumns(column));
     board.breakColumns.push_back(IsBreakDayOfWeek(board.headings.back()));
   }

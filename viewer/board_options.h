@@ -23,6 +23,10 @@ struct BoardOptions {
   ELanguage language = eLanguageEng;
 };
 
+// Whether the numbers of the weeks stand beside the board; kIfRoom gives them up before the days
+// have to move together.
+enum class WeekNumbers { kIfRoom, kAlways, kNever };
+
 constexpr int kMostRows = 50;
 
 // Whether the arrangement has as many rows as wanted.

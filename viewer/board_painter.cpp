@@ -2,7 +2,10 @@
 #include "board_painter.h"
 
 #include <algorithm>
+#include <string>
 
+#include "board_parts.h"
+#include "compact_board.h"
 #include "text_layout.h"
 
 namespace almara::viewer {
@@ -10,35 +13,73 @@ namespace {
 
 constexpr int kWeekNumberWidth = 5;                     // "52/53"
 constexpr int kWeekColumnWidth = kWeekNumberWidth + 2;  // and " ╭"
+constexpr int kNarrowWeekColumnWidth = 3;               // "52 "
 constexpr int kNarrowestCell = 4;                       // "[12]"
-constexpr int kWidestCell = 16;
+constexpr int kComfortableCell = 10;
 constexpr int kNarrowestAnnotation = 6;
 
-struct Geometry {
-  int weekColumn = 0;
-  int cell = kWidestCell;
+using Row = std::vector<tagCalendarCell>;
+
+// The text under a day in its full and its brief form.
+struct DayText {
+  std::string full;
+  std::string brief;
+  Role role = Role::kLunarDay;
 };
 
-Geometry GeometryFor(int columns, const PaintSettings& settings) {
-  Geometry geometry;
-  columns = std::max(columns, 1);
-  if (settings.weekNumbers && settings.width >= kWeekColumnWidth + columns * kNarrowestCell) {
-    geometry.weekColumn = kWeekColumnWidth;
+// The day's weightiest name, or else its lunar day.
+DayText DayTextOf(CivilDate date, const PaintSettings& settings) {
+  const Texts& texts = *settings.texts;
+  const Annotation annotation = settings.annotator->Annotate(date);
+  const std::vector<DayName> names = NamesOf(annotation);
+  if (names.empty()) {
+    return {LunarDayText(texts, annotation.lunar), LunarDayBrief(texts, annotation.lunar)};
   }
-  geometry.cell =
-      std::clamp((settings.width - geometry.weekColumn) / columns, kNarrowestCell, kWidestCell);
-  return geometry;
+  const DayName& name = names.front();
+  return {FullName(name, texts.language), BriefName(name, texts.language),
+          name.kind == DayName::Kind::kSolarTerm ? Role::kSolarTerm : Role::kFestival};
 }
 
-// The months that the title names: in the whole-month arrangement the board's own, otherwise those
-// of the shown days.
-std::string TitleText(const BoardSnapshot& board, const Texts& texts) {
-  const std::vector<CivilDate> days = ShownDays(board);
-  if (days.empty() || board.options.mode == eDispMonthWholeMonth) {
-    const CivilDate date = DateOf(board.contentDate);
-    return MonthsText(texts, date, date);
+// How the columns share the width. A board without room for cells of kNarrowestCell is compact.
+struct Geometry {
+  int weekColumn = 0;
+  int cell = kNarrowestCell;
+  bool compact = false;
+};
+
+// The cells that the longest text under a day and the space around it take.
+int WidestCell(const BoardSnapshot& board, const PaintSettings& settings) {
+  int widest = kComfortableCell;
+  if (settings.annotator != nullptr) {
+    for (const CivilDate date : ShownDays(board)) {
+      widest = std::max(widest, DisplayWidth(DayTextOf(date, settings).full) + 2);
+    }
   }
-  return MonthsText(texts, days.front(), days.back());
+  return widest;
+}
+
+int WeekColumnFor(int columns, const PaintSettings& settings) {
+  if (settings.weekNumbers == WeekNumbers::kNever) {
+    return 0;
+  }
+  for (const int width : {kWeekColumnWidth, kNarrowWeekColumnWidth}) {
+    if (settings.width >= width + columns * kNarrowestCell) {
+      return width;
+    }
+  }
+  // One place may lack, the one after the last day.
+  const bool fits = settings.width >= CompactWidth(columns, true) - 1;
+  return settings.weekNumbers == WeekNumbers::kAlways && fits ? kNarrowWeekColumnWidth : 0;
+}
+
+Geometry GeometryFor(const BoardSnapshot& board, const PaintSettings& settings) {
+  const int columns = std::max(board.Columns(), 1);
+  Geometry geometry;
+  geometry.weekColumn = WeekColumnFor(columns, settings);
+  const int cell = (settings.width - geometry.weekColumn) / columns;
+  geometry.compact = cell < kNarrowestCell;
+  geometry.cell = std::clamp(cell, kNarrowestCell, WidestCell(board, settings));
+  return geometry;
 }
 
 std::string SpanNumber(const tagWeekNumberSpan& span) {
@@ -56,20 +97,29 @@ const char* SpanBracket(std::size_t line, std::size_t lines, const Glyphs& glyph
   return line + 1 == lines ? glyphs.spanBottom : glyphs.spanMiddle;
 }
 
-// The week-number column: one text of kWeekColumnWidth cells for each line of the board. A span
-// without a number stays blank.
+// One line of a span in the week-number column. A narrow column has room for one number and no
+// bracket.
+std::string SpanText(const tagWeekNumberSpan& span, std::size_t line, std::size_t lines, int width,
+                     const Glyphs& glyphs) {
+  if (width == kNarrowWeekColumnWidth) {
+    return Fit(line == 0 ? std::to_string(span.weekNumber) : "", width - 1, "", Align::kRight) +
+           " ";
+  }
+  const std::string number = line == 0 ? SpanNumber(span) : "";
+  return Fit(number, kWeekNumberWidth, glyphs.ellipsis, Align::kRight) + " " +
+         SpanBracket(line, lines, glyphs);
+}
+
+// The week-number column: one text of its width for each line of the board. A span without a number
+// stays blank.
 std::vector<std::string> WeekColumnTexts(const BoardSnapshot& board, std::size_t linesPerRow,
-                                         const Glyphs& glyphs) {
-  const std::string blank = Repeat(" ", kWeekColumnWidth);
+                                         int width, const Glyphs& glyphs) {
+  const std::string blank = Repeat(" ", width);
   std::vector<std::string> texts;
   for (const tagWeekNumberSpan& span : board.weekSpans) {
     const std::size_t lines = static_cast<std::size_t>(span.rows) * linesPerRow;
     for (std::size_t line = 0; line < lines; ++line) {
-      const std::string number = line == 0 ? SpanNumber(span) : "";
-      texts.push_back(span.weekNumber < 1
-                          ? blank
-                          : Fit(number, kWeekNumberWidth, glyphs.ellipsis, Align::kRight) + " " +
-                                SpanBracket(line, lines, glyphs));
+      texts.push_back(span.weekNumber < 1 ? blank : SpanText(span, line, lines, width, glyphs));
     }
   }
   texts.resize(board.rows.size() * linesPerRow, blank);
@@ -78,18 +128,17 @@ std::vector<std::string> WeekColumnTexts(const BoardSnapshot& board, std::size_t
 
 class BoardPainter {
  public:
-  BoardPainter(const BoardSnapshot& board, const PaintSettings& settings)
+  BoardPainter(const BoardSnapshot& board, const PaintSettings& settings, Geometry geometry)
       : m_board(board),
         m_settings(settings),
         m_texts(*settings.texts),
         m_glyphs(*settings.glyphs),
-        m_geometry(GeometryFor(board.Columns(), settings)) {}
+        m_geometry(geometry) {}
 
   PaintedBoard Paint() const {
     PaintedBoard painted;
-    painted.title = {TitlePiece()};
     painted.headings = Headings();
-    for (const auto& row : m_board.rows) {
+    for (const Row& row : m_board.rows) {
       painted.rows.push_back({DateLine(row)});
       if (Annotated()) {
         painted.rows.back().push_back(AnnotationLine(row));
@@ -102,26 +151,28 @@ class BoardPainter {
   }
 
  private:
-  // In the middle above the board, however narrow that is.
-  Piece TitlePiece() const {
-    const std::string title = TitleText(m_board, m_texts);
-    const int boardWidth = m_geometry.weekColumn + m_geometry.cell * m_board.Columns();
-    const int width = std::min(std::max(boardWidth, DisplayWidth(title)), m_settings.width);
-    return {Fit(title, width, m_glyphs.ellipsis, Align::kCenter), Role::kTitle};
-  }
-
   Line Headings() const {
     Line line;
-    if (m_geometry.weekColumn > 0) {
+    if (m_geometry.weekColumn == kWeekColumnWidth) {
       line.push_back(
           {Fit(m_texts.weekHeading, kWeekNumberWidth, m_glyphs.ellipsis, Align::kRight) + "  ",
            Role::kWeekNumber});
+    } else if (m_geometry.weekColumn > 0) {
+      line.push_back({Repeat(" ", m_geometry.weekColumn)});
     }
     for (std::size_t column = 0; column < m_board.headings.size(); ++column) {
-      line.push_back({InCell(Weekday(m_texts, m_board.headings[column])),
+      line.push_back({InCell(HeadingText(m_board.headings[column])),
                       m_board.breakColumns[column] ? Role::kBreakHeading : Role::kHeading});
     }
     return line;
+  }
+
+  // The short name of the day if those of all days fit, so that the columns stay alike.
+  const char* HeadingText(ECalendarWeek day) const {
+    const bool fits =
+        std::all_of(m_texts.weekdays.begin(), m_texts.weekdays.end(),
+                    [this](const char* name) { return DisplayWidth(name) < m_geometry.cell; });
+    return fits ? Weekday(m_texts, day) : NarrowWeekday(m_texts, day);
   }
 
   bool Annotated() const {
@@ -134,12 +185,13 @@ class BoardPainter {
     return " " + Fit(text, m_geometry.cell - 1, m_glyphs.ellipsis);
   }
 
-  Line DateLine(const std::vector<tagCalendarCell>& row) const {
+  Line DateLine(const Row& row) const {
     Line line;
     for (std::size_t column = 0; column < row.size();) {
       const std::size_t end = IntervalEnd(row, column);
       if (end > column) {
-        line.push_back({IntervalText(row, column, end), Role::kMonthTitle});
+        const int width = static_cast<int>(end - column) * m_geometry.cell;
+        line.push_back({IntervalText(m_texts, m_glyphs, row[column], width), Role::kMonthTitle});
         column = end;
       } else {
         line.push_back(DayPiece(row[column]));
@@ -149,45 +201,12 @@ class BoardPainter {
     return line;
   }
 
-  // Behind the cells from `column` on that belong to one month interval.
-  static std::size_t IntervalEnd(const std::vector<tagCalendarCell>& row, std::size_t column) {
-    while (column < row.size() && IsInterval(row[column])) {
-      ++column;
-    }
-    return column;
-  }
-
-  // A month interval is a rule across its cells; the title stands in the rule.
-  std::string IntervalText(const std::vector<tagCalendarCell>& row, std::size_t begin,
-                           std::size_t end) const {
-    const int width = static_cast<int>(end - begin) * m_geometry.cell;
-    if (row[begin].type != eCalendarItemMonthTitle) {
-      return Repeat(m_glyphs.rule, width);
-    }
-    const std::string title = IntervalTitle(row[begin].month, width);
-    return title + Repeat(m_glyphs.rule, width - DisplayWidth(title));
-  }
-
-  // The longest form of the month's name that fits, set off from the rule where there is room.
-  std::string IntervalTitle(int month, int width) const {
-    const std::string name = Month(m_texts, month);
-    const std::string shortName = ShortMonth(m_texts, month);
-    const std::string rule = m_glyphs.rule;
-    const std::string spaced = std::string(rule).append(" ").append(name).append(" ");
-    for (const std::string& form : {spaced, rule + name, rule + shortName}) {
-      if (DisplayWidth(form) <= width) {
-        return form;
-      }
-    }
-    return Shorten(shortName, width, "");
-  }
-
   Piece DayPiece(const tagCalendarCell& cell) const {
     if (!ShowsDay(cell)) {
-      return {Repeat(" ", m_geometry.cell), Role::kPlain};
+      return {Repeat(" ", m_geometry.cell)};
     }
     const bool today = IsToday(cell);
-    const std::string number = (cell.day < 10 ? " " : "") + std::to_string(cell.day);
+    const std::string number = Fit(std::to_string(cell.day), 2, "", Align::kRight);
     std::string text = today ? "[" + number + "]" : " " + number;
     if (IsBreakDay(cell)) {
       text += m_glyphs.breakDay;
@@ -197,7 +216,7 @@ class BoardPainter {
             DateOf(cell)};
   }
 
-  Line AnnotationLine(const std::vector<tagCalendarCell>& row) const {
+  Line AnnotationLine(const Row& row) const {
     Line line;
     for (const tagCalendarCell& cell : row) {
       line.push_back(ShowsDay(cell) ? AnnotationPiece(DateOf(cell))
@@ -206,25 +225,15 @@ class BoardPainter {
     return line;
   }
 
-  // The day's weightiest name, or else its lunar day.
   Piece AnnotationPiece(CivilDate date) const {
-    const bool selected = m_settings.selected == date;
-    const Annotation annotation = m_settings.annotator->Annotate(date);
-    const std::vector<DayName> names = NamesOf(annotation);
-    if (names.empty()) {
-      return {InCell(LunarDayText(m_texts, annotation.lunar)), Role::kLunarDay, selected, date};
-    }
-    const DayName& name = names.front();
-    const std::string full = FullName(name, m_texts.language);
-    const bool fits = DisplayWidth(full) < m_geometry.cell;
-    return {InCell(fits ? full : BriefName(name, m_texts.language)),
-            name.kind == DayName::Kind::kSolarTerm ? Role::kSolarTerm : Role::kFestival, selected,
-            date};
+    const DayText text = DayTextOf(date, m_settings);
+    const bool fits = DisplayWidth(text.full) < m_geometry.cell;
+    return {InCell(fits ? text.full : text.brief), text.role, m_settings.selected == date, date};
   }
 
   void AddWeekColumn(std::vector<std::vector<Line>>& rows) const {
-    const std::size_t linesPerRow = Annotated() ? 2 : 1;
-    const std::vector<std::string> texts = WeekColumnTexts(m_board, linesPerRow, m_glyphs);
+    const std::vector<std::string> texts =
+        WeekColumnTexts(m_board, Annotated() ? 2 : 1, m_geometry.weekColumn, m_glyphs);
     std::size_t index = 0;
     for (auto& row : rows) {
       for (Line& line : row) {
@@ -241,10 +250,31 @@ class BoardPainter {
   const Geometry m_geometry;
 };
 
+PaintedBoard PaintNarrow(const BoardSnapshot& board, const PaintSettings& settings,
+                         const Geometry& geometry) {
+  CompactSettings compact;
+  compact.weekNumbers = geometry.weekColumn > 0;
+  compact.width = settings.width;
+  return PaintCompact(board, compact, settings);
+}
+
+// In the middle above the board, however narrow that is.
+Piece TitlePiece(const BoardSnapshot& board, const PaintSettings& settings, int boardWidth) {
+  const std::string title = TitleText(board, *settings.texts, settings.width);
+  const int width = std::min(std::max(boardWidth, DisplayWidth(title)), settings.width);
+  return {Fit(title, width, settings.glyphs->ellipsis, Align::kCenter), Role::kTitle};
+}
+
 }  // namespace
 
 PaintedBoard PaintBoard(const BoardSnapshot& board, const PaintSettings& settings) {
-  return BoardPainter(board, settings).Paint();
+  const Geometry geometry = GeometryFor(board, settings);
+  PaintedBoard painted = geometry.compact ? PaintNarrow(board, settings, geometry)
+                                          : BoardPainter(board, settings, geometry).Paint();
+  const int width = geometry.compact ? CompactWidth(board.Columns(), geometry.weekColumn > 0)
+                                     : geometry.weekColumn + geometry.cell * board.Columns();
+  painted.title = {TitlePiece(board, settings, width)};
+  return painted;
 }
 
 }  // namespace almara::viewer

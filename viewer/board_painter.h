@@ -16,7 +16,7 @@ namespace almara::viewer {
 
 struct PaintSettings {
   int width = 80;  // terminal cells that may be used
-  bool weekNumbers = true;
+  WeekNumbers weekNumbers = WeekNumbers::kIfRoom;
   const Texts* texts = nullptr;
   const Glyphs* glyphs = nullptr;
   Annotator* annotator = nullptr;  // null: no line under the days

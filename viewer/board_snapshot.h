@@ -16,7 +16,7 @@ namespace almara::viewer {
 struct BoardSnapshot {
   BoardOptions options;  // in force
   bool hideBreakDay = false;
-  bool showBreakDayOfWeek = true;
+  bool showBreakDayOfWeek = true;  // whether the board has their columns
   std::vector<std::vector<tagCalendarCell>> rows;
   std::vector<ECalendarWeek> headings;
   std::vector<bool> breakColumns;  // in the week arrangements, whether the column is a break day

@@ -56,8 +56,7 @@ CivilDate AddDays(CivilDate date, int days) {
 }
 
 CivilDate AddMonths(CivilDate date, int months) {
-  const int month = date.year * 12 + date.month - 1 + months;
-  const CivilDate first = ClampToRange({month / 12, month % 12 + 1, 1});
+  const CivilDate first = ClampToRange(FirstOfMonth(MonthNumberOf(date) + months));
   return {first.year, first.month, std::min(date.day, DaysInMonth(first.year, first.month))};
 }
 

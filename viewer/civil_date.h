@@ -52,6 +52,12 @@ CivilDate AddDays(CivilDate date, int days);
 // The same day some months away, or the month's last day if it is shorter; kept in the same range.
 CivilDate AddMonths(CivilDate date, int months);
 
+// Months counted through the years, and the first day of a month by that number.
+constexpr int MonthNumberOf(CivilDate date) { return date.year * 12 + date.month - 1; }
+constexpr CivilDate FirstOfMonth(int monthNumber) {
+  return {monthNumber / 12, monthNumber % 12 + 1, 1};
+}
+
 ECalendarWeek DayOfWeek(CivilDate date);
 
 // Reads YYYY-MM-DD. On failure the date is empty and the problem says why, as the end of a sentence

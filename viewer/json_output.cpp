@@ -138,10 +138,12 @@ std::string DayJson(const DayReport& report, ELanguage region, bool ascii) {
   return Print(json, ascii);
 }
 
-std::string YearJson(int year, const std::vector<NamedDay>& days, ELanguage region, bool ascii) {
+std::string YearJson(int year, CivilDate today, const std::vector<NamedDay>& days, ELanguage region,
+                     bool ascii) {
   Json list = Json::array();
   for (const NamedDay& day : days) {
     Json json = CivilDateJson(day.date);
+    json["daysFromToday"] = DayNumber(day.date) - DayNumber(today);
     AddAnnotation(json, day.annotation, region);
     list.push_back(std::move(json));
   }

@@ -47,7 +47,8 @@ namespace almara::viewer {
 // With `ascii` every other character is written as an escape.
 std::string BoardJson(const BoardSnapshot& board, Annotator& annotator, bool ascii);
 std::string DayJson(const DayReport& report, ELanguage region, bool ascii);
-std::string YearJson(int year, const std::vector<NamedDay>& days, ELanguage region, bool ascii);
+std::string YearJson(int year, CivilDate today, const std::vector<NamedDay>& days, ELanguage region,
+                     bool ascii);
 
 }  // namespace almara::viewer
 

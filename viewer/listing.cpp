@@ -15,16 +15,6 @@ Role RoleOf(DayName::Kind kind) {
   return kind == DayName::Kind::kSolarTerm ? Role::kSolarTerm : Role::kFestival;
 }
 
-int WidthOf(const Line& line) {
-  int width = 0;
-  for (const Piece& piece : line) {
-    width += DisplayWidth(piece.text);
-  }
-  return width;
-}
-
-void Append(Line& line, const Line& more) { line.insert(line.end(), more.begin(), more.end()); }
-
 Line LegendEntry(const NamedDay& day, const Texts& texts, int dateWidth) {
   Line entry = {{" " + Fit(DayOfMonthText(texts, day.date), dateWidth, "", Align::kRight) + "  ",
                  Role::kHint}};
@@ -32,10 +22,13 @@ Line LegendEntry(const NamedDay& day, const Texts& texts, int dateWidth) {
   return entry;
 }
 
-Line DayOfYearEntry(const NamedDay& day, const Texts& texts) {
+// "   1 Mon  in 12 days   New Year's Day"
+Line DayOfYearEntry(const NamedDay& day, const std::string& fromToday, int fromTodayWidth,
+                    const Texts& texts) {
   const std::string number = Fit(std::to_string(day.date.day), 4, "", Align::kRight);
   const std::string weekday = Fit(Weekday(texts, DayOfWeek(day.date)), 4, "");
-  Line entry = {{number + " " + weekday + "  ", Role::kPlain}};
+  Line entry = {{number + " " + weekday + "  "},
+                {Fit(fromToday, fromTodayWidth, "") + "  ", Role::kHint}};
   Append(entry, NamesLine(day.annotation, texts.language));
   return entry;
 }
@@ -101,10 +94,18 @@ std::vector<Line> LegendLines(const std::vector<NamedDay>& days, const Texts& te
   return lines;
 }
 
-std::vector<Line> YearLines(int year, const std::vector<NamedDay>& days, const Texts& texts) {
+std::vector<Line> YearLines(int year, CivilDate today, const std::vector<NamedDay>& days,
+                            const Texts& texts) {
+  std::vector<std::string> fromToday;
+  int width = 0;
+  for (const NamedDay& day : days) {
+    fromToday.push_back(FromTodayText(texts, DayNumber(day.date) - DayNumber(today)));
+    width = std::max(width, DisplayWidth(fromToday.back()));
+  }
   std::vector<Line> lines;
   int month = 0;
-  for (const NamedDay& day : days) {
+  for (std::size_t index = 0; index < days.size(); ++index) {
+    const NamedDay& day = days[index];
     if (day.date.month != month) {
       month = day.date.month;
       if (!lines.empty()) {
@@ -112,7 +113,7 @@ std::vector<Line> YearLines(int year, const std::vector<NamedDay>& days, const T
       }
       lines.push_back({{MonthsText(texts, {year, month, 1}, {year, month, 1}), Role::kTitle}});
     }
-    lines.push_back(DayOfYearEntry(day, texts));
+    lines.push_back(DayOfYearEntry(day, fromToday[index], width, texts));
   }
   return lines;
 }

@@ -27,8 +27,9 @@ Line NamesLine(const Annotation& annotation, TextLanguage language);
 // A line for each day, in as many columns as the width allows.
 std::vector<Line> LegendLines(const std::vector<NamedDay>& days, const Texts& texts, int width);
 
-// The days of a year under the names of their months.
-std::vector<Line> YearLines(int year, const std::vector<NamedDay>& days, const Texts& texts);
+// The days of a year under the names of their months, each with its days from today.
+std::vector<Line> YearLines(int year, CivilDate today, const std::vector<NamedDay>& days,
+                            const Texts& texts);
 
 // What is known of one day.
 struct DayReport {

@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <cctype>
 #include <clocale>
+#include <cstdint>
 #include <cstdlib>
+#include <cwchar>
 #include <initializer_list>
 
 namespace almara::viewer {
@@ -32,6 +34,21 @@ bool NamesUtf8(std::string localeName) {
 
 bool LocaleIsUtf8() { return std::string(nl_langinfo(CODESET)) == "UTF-8"; }
 
+// glibc knows the day that its lists of weekdays begin with, as a date, and the first day of the
+// week as a place in that list. "C" begins its weeks on Sunday only for want of a wish.
+ECalendarWeek FirstDayOfLocale() {
+  const std::string name = std::setlocale(LC_TIME, nullptr);
+  if (name == "C" || name == "POSIX" || name.rfind("C.", 0) == 0) {
+    return eCalendarWeekMonday;
+  }
+  constexpr std::uintptr_t kSunday = 19971130;
+  const auto listBegin = reinterpret_cast<std::uintptr_t>(nl_langinfo(_NL_TIME_WEEK_1STDAY));
+  const int place = *nl_langinfo(_NL_TIME_FIRST_WEEKDAY) - 1;
+  return (place + (listBegin == kSunday ? 0 : 1)) % 7;
+}
+
+bool LinesAreNarrow() { return wcwidth(L'\u2500') == 1 && wcwidth(L'\u00b7') == 1; }
+
 }  // namespace
 
 LocaleSettings UseLocale() {
@@ -42,7 +59,8 @@ LocaleSettings UseLocale() {
       std::setlocale(LC_CTYPE, "C.UTF-8");
     }
   }
-  return {LanguageOfLocale(FirstSet({"LC_ALL", "LC_TIME", "LANG"})), LocaleIsUtf8()};
+  return {LanguageOfLocale(FirstSet({"LC_ALL", "LC_TIME", "LANG"})), LocaleIsUtf8(),
+          LinesAreNarrow(), FirstDayOfLocale()};
 }
 
 ELanguage LanguageOfLocale(const std::string& name) {

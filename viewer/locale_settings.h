@@ -11,7 +11,9 @@ namespace almara::viewer {
 
 struct LocaleSettings {
   ELanguage language = eLanguageEng;
-  bool utf8 = false;  // false: write ASCII only
+  bool utf8 = false;         // false: write ASCII only
+  bool narrowLines = false;  // whether the signs of lines and marks take one cell
+  ECalendarWeek firstDay = eCalendarWeekMonday;  // Monday also where the locale has no wish
 };
 
 // Activates the environment's locale for character widths and the screen, and reads it.

@@ -13,21 +13,42 @@
 
 namespace almara::viewer {
 
-enum class Task { kShowBoard, kShowDay, kListYear, kFullScreen, kPrintText };
+enum class Task {
+  kShowBoard,
+  kShowMonths,
+  kShowYear,
+  kShowDay,
+  kListYear,
+  kFullScreen,
+  kPrintText
+};
+
+// A day, a month or a year, as the arguments that are no options name it: "10 2 2024", "2 2024",
+// "2024". What is missing is that of today.
+struct When {
+  std::optional<int> day;
+  std::optional<int> month;
+  std::optional<int> year;
+};
 
 struct Options {
   Task task = Task::kShowBoard;
   BoardOptions board;
-  std::optional<CivilDate> date;
-  std::vector<Step> steps;  // in the order given
-  bool weekNumbers = true;
+  std::optional<CivilDate> date;  // to show instead of today
+  When when;                      // the same, by the day, the month or the year
+  std::vector<Step> steps;        // in the order given
+  int monthsBefore = 0;           // for Task::kShowMonths
+  int monthsAfter = 0;
+  WeekNumbers weekNumbers = WeekNumbers::kIfRoom;
   bool annotations = true;
-  CivilDate day;            // for Task::ShowDay
-  std::optional<int> year;  // for Task::ListYear; none is this year
+  CivilDate day;            // for Task::kShowDay
+  std::optional<int> year;  // for Task::kListYear; none is this year
   std::string text;         // for Task::kPrintText
   bool json = false;
   bool dump = false;
   ColorMode color = ColorMode::kAuto;
+  bool ascii = false;          // lines and marks in ASCII, whatever the terminal can show
+  std::optional<int> columns;  // to use instead of the terminal's
 };
 
 }  // namespace almara::viewer

@@ -24,43 +24,47 @@ void Silence(int descriptor) {
   close(null);
 }
 
-// Select Graphic Rendition codes; empty for text in the terminal's own colours.
-const char* ColorCodes(Role role) {
-  switch (role) {
-    case Role::kTitle:
-    case Role::kHeading:
-      return "1";
-    case Role::kBreakHeading:
-      return "1;31";
-    case Role::kBreakDay:
-      return "31";
-    case Role::kToday:
-      return "1;7";
-    case Role::kMonthTitle:
-      return "36";
-    case Role::kFestival:
-      return "35";
-    case Role::kSolarTerm:
-      return "32";
-    case Role::kWeekNumber:
-    case Role::kLunarDay:
-    case Role::kHint:
-      return "2";
-    case Role::kPlain:
-    case Role::kDay:
-      break;
+// Select Graphic Rendition codes; empty for text in the terminal's own look.
+std::string ColorCodes(const Look& look, Palette palette) {
+  std::string codes;
+  const auto add = [&codes](const std::string& code) {
+    codes += (codes.empty() ? "" : ";") + code;
+  };
+  const int color = ColorOf(look, palette);
+  if (look.bold) {
+    add("1");
   }
-  return "";
+  if (look.dim) {
+    add("2");
+  }
+  if (look.reverse) {
+    add("7");
+  }
+  if (color != kOwnColor) {
+    add((palette == Palette::k256 ? "38;5;" : "3") + std::to_string(color));
+  }
+  return codes;
 }
 
-std::string WithColor(const Piece& piece) {
-  const std::string codes = ColorCodes(piece.role);
-  // The spaces behind a text stay outside, so that today's box is as wide as its text.
+std::string WithColor(const Piece& piece, Palette palette) {
+  const std::string codes = ColorCodes(LookOf(piece.role), palette);
+  // The spaces after a text stay outside, so that today's box is as wide as its text.
   const std::size_t end = piece.text.find_last_not_of(' ') + 1;
   if (codes.empty() || end == 0) {
     return piece.text;
   }
   return "\033[" + codes + "m" + piece.text.substr(0, end) + "\033[0m" + piece.text.substr(end);
+}
+
+std::string Variable(const char* name) {
+  const char* value = std::getenv(name);
+  return value != nullptr ? value : "";
+}
+
+Palette PaletteOfTerminal() {
+  const bool many =
+      Variable("TERM").find("256color") != std::string::npos || !Variable("COLORTERM").empty();
+  return many ? Palette::k256 : Palette::kBasic;
 }
 
 }  // namespace
@@ -97,11 +101,11 @@ void Output::Write(const std::string& text) {
   std::fwrite(text.data(), 1, text.size(), m_file);
 }
 
-void Output::Write(const std::vector<Line>& lines, bool color) {
+void Output::Write(const std::vector<Line>& lines, Palette palette) {
   for (const Line& line : lines) {
     std::string text;
     for (const Piece& piece : line) {
-      text += color ? WithColor(piece) : piece.text;
+      text += palette == Palette::kNone ? piece.text : WithColor(piece, palette);
     }
     text.erase(text.find_last_not_of(' ') + 1);
     Write(text + "\n");
@@ -110,17 +114,12 @@ void Output::Write(const std::vector<Line>& lines, bool color) {
 
 bool Output::Finish() { return std::fflush(m_file) == 0 && std::ferror(m_file) == 0; }
 
-bool UseColor(ColorMode mode, const Output& output) {
-  if (mode != ColorMode::kAuto) {
-    return mode == ColorMode::kAlways;
-  }
-  const char* noColor = std::getenv("NO_COLOR");
-  if (noColor != nullptr && *noColor != '\0') {
-    return false;
-  }
-  const char* term = std::getenv("TERM");
-  const bool dumb = term == nullptr || std::string(term) == "dumb";
-  return output.IsTerminal() && !dumb;
+Palette PaletteFor(ColorMode mode, const Output& output) {
+  const std::string term = Variable("TERM");
+  const bool wanted =
+      Variable("NO_COLOR").empty() && output.IsTerminal() && !term.empty() && term != "dumb";
+  const bool colored = mode == ColorMode::kAuto ? wanted : mode == ColorMode::kAlways;
+  return colored ? PaletteOfTerminal() : Palette::kNone;
 }
 
 }  // namespace almara::viewer

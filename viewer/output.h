@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "looks.h"
 #include "styled_text.h"
 
 namespace almara::viewer {
@@ -28,7 +29,7 @@ class Output {
   int Columns() const;
 
   void Write(const std::string& text);
-  void Write(const std::vector<Line>& lines, bool color);
+  void Write(const std::vector<Line>& lines, Palette palette);
 
   // False if something could not be written, for example to a full disk.
   bool Finish();
@@ -38,7 +39,7 @@ class Output {
 };
 
 // The option decides, then NO_COLOR, then whether a terminal that can show colours reads it.
-bool UseColor(ColorMode mode, const Output& output);
+Palette PaletteFor(ColorMode mode, const Output& output);
 
 }  // namespace almara::viewer
 

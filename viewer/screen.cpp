@@ -17,45 +17,29 @@ namespace {
 
 constexpr int kEscapeDelayMs = 25;  // an Escape key is not the beginning of a sequence after this
 
-struct Look {
-  Role role;
-  short color;  // COLOR_..., or -1 for the terminal's own
-  attr_t attributes;
-};
-
-const Look& LookOf(Role role) {
-  static constexpr Look kLooks[] = {
-      {Role::kPlain, -1, A_NORMAL},
-      {Role::kTitle, -1, A_BOLD},
-      {Role::kHeading, -1, A_BOLD},
-      {Role::kBreakHeading, COLOR_RED, A_BOLD},
-      {Role::kWeekNumber, -1, A_DIM},
-      {Role::kDay, -1, A_NORMAL},
-      {Role::kBreakDay, COLOR_RED, A_NORMAL},
-      {Role::kToday, -1, A_BOLD | A_UNDERLINE},
-      {Role::kMonthTitle, COLOR_CYAN, A_NORMAL},
-      {Role::kFestival, COLOR_MAGENTA, A_NORMAL},
-      {Role::kSolarTerm, COLOR_GREEN, A_NORMAL},
-      {Role::kLunarDay, -1, A_DIM},
-      {Role::kHint, -1, A_DIM},
-  };
-  for (const Look& look : kLooks) {
-    if (look.role == role) {
-      return look;
-    }
-  }
-  return kLooks[0];
+// The reverse of a look is left to the selection; today is underlined instead.
+attr_t AttributesOf(const Look& look) {
+  return (look.bold ? A_BOLD : A_NORMAL) | (look.dim ? A_DIM : A_NORMAL) |
+         (look.reverse ? A_UNDERLINE : A_NORMAL);
 }
 
-// Color pair of a color; pair 0 is the terminal's own look.
-short PairOf(short color) { return static_cast<short>(color < 0 ? 0 : color + 1); }
+// The colour pair of a role; pair 0 is the terminal's own look.
+short PairOf(Role role) { return static_cast<short>(static_cast<int>(role) + 1); }
 
-void DefineColors() {
+// The palette as far as the terminal has it.
+Palette DefineColors(Palette wanted) {
+  if (wanted == Palette::kNone || !has_colors()) {
+    return Palette::kNone;
+  }
   start_color();
   use_default_colors();
-  for (short color = COLOR_BLACK; color <= COLOR_WHITE; ++color) {
-    init_pair(PairOf(color), color, -1);
+  constexpr int kMany = 256;
+  const Palette palette = COLORS < kMany ? Palette::kBasic : wanted;
+  for (int role = 0; role <= static_cast<int>(Role::kHint); ++role) {
+    const int color = ColorOf(LookOf(static_cast<Role>(role)), palette);
+    init_pair(PairOf(static_cast<Role>(role)), static_cast<short>(color), -1);
   }
+  return palette;
 }
 
 constexpr const char* kUnsuitable =
@@ -118,7 +102,7 @@ bool CanMoveCursor() { return tigetstr("cup") != nullptr; }
 
 }  // namespace
 
-Screen::Screen(const Output& output, bool color) : m_screen(OpenTerminal(output)) {
+Screen::Screen(const Output& output, Palette palette) : m_screen(OpenTerminal(output)) {
   if (m_screen == nullptr) {
     throw UsageError(kUnsuitable);
   }
@@ -135,10 +119,7 @@ Screen::Screen(const Output& output, bool color) : m_screen(OpenTerminal(output)
   curs_set(0);
   mousemask(BUTTON1_PRESSED | BUTTON4_PRESSED | BUTTON5_PRESSED, nullptr);
   mouseinterval(0);  // a click counts when the button goes down
-  m_color = color && has_colors();
-  if (m_color) {
-    DefineColors();
-  }
+  m_palette = DefineColors(palette);
 }
 
 Screen::~Screen() {
@@ -162,12 +143,12 @@ void Screen::Draw(const std::vector<Line>& lines, const Line& status) {
 void Screen::DrawLine(int row, const Line& line) const {
   int column = 0;
   for (const Piece& piece : line) {
-    const Look& look = LookOf(piece.role);
     // The selection is the terminal's own look turned round, which can be read on any ground.
     const attr_t selection = piece.selected ? A_REVERSE : A_NORMAL;
-    const bool colored = m_color && !piece.selected;
+    const bool colored = m_palette != Palette::kNone && !piece.selected;
     const std::string text = Shorten(piece.text, COLS - column, "");
-    attr_set(look.attributes | selection, colored ? PairOf(look.color) : short{0}, nullptr);
+    attr_set(AttributesOf(LookOf(piece.role)) | selection, colored ? PairOf(piece.role) : short{0},
+             nullptr);
     mvaddstr(row, column, text.c_str());
     column += DisplayWidth(text);
   }

@@ -47,7 +47,7 @@ struct KeyPress {
 // Owns the screen: entered in the constructor, left as it was found in the destructor.
 class Screen {
  public:
-  Screen(const Output& output, bool color);
+  Screen(const Output& output, Palette palette);
   ~Screen();
   Screen(const Screen&) = delete;
   Screen& operator=(const Screen&) = delete;
@@ -65,7 +65,7 @@ class Screen {
   void DrawLine(int row, const Line& line) const;
 
   screen* m_screen = nullptr;
-  bool m_color = false;
+  Palette m_palette = Palette::kNone;
 };
 
 }  // namespace almara::viewer

@@ -25,7 +25,7 @@ enum class Role {
   kFestival,
   kSolarTerm,
   kLunarDay,
-  kHint,
+  kHint,  // the last one
 };
 
 // Whether roles become colours: kAuto leaves it to NO_COLOR and the terminal.
@@ -39,6 +39,16 @@ struct Piece {
 };
 
 using Line = std::vector<Piece>;
+
+// Terminal cells of a line.
+int WidthOf(const Line& line);
+
+void Append(Line& line, const Line& more);
+void Append(std::vector<Line>& lines, const std::vector<Line>& more);
+
+// The line in as many as its width needs, broken at blanks, and within a word that alone is too
+// wide. All but the first begin with `indent` blanks.
+std::vector<Line> Wrapped(const Line& line, int width, int indent);
 
 }  // namespace almara::viewer
 

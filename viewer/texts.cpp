@@ -26,6 +26,13 @@ Texts TextsIn(TextLanguage language) {
   return TextsEnglish();
 }
 
+PatternValues MonthsValues(const Texts& texts, CivilDate first, CivilDate last) {
+  return {{'y', std::to_string(first.year)},    {'m', std::to_string(first.month)},
+          {'M', Month(texts, first.month)},     {'S', ShortMonth(texts, first.month)},
+          {'n', std::to_string(last.month)},    {'N', Month(texts, last.month)},
+          {'T', ShortMonth(texts, last.month)}, {'z', std::to_string(last.year)}};
+}
+
 }  // namespace
 
 Texts TextsFor(ELanguage region, bool utf8) {
@@ -34,6 +41,10 @@ Texts TextsFor(ELanguage region, bool utf8) {
 
 const char* Weekday(const Texts& texts, ECalendarWeek day) {
   return texts.weekdays[static_cast<std::size_t>(day)];
+}
+
+const char* NarrowWeekday(const Texts& texts, ECalendarWeek day) {
+  return texts.narrowWeekdays[static_cast<std::size_t>(day)];
 }
 
 const char* Month(const Texts& texts, int month) {
@@ -62,12 +73,14 @@ std::string MonthsText(const Texts& texts, CivilDate first, CivilDate last) {
   const char* pattern = first.year != last.year     ? texts.titleYears
                         : first.month != last.month ? texts.titleMonths
                                                     : texts.title;
-  return FillPattern(pattern, {{'y', std::to_string(first.year)},
-                               {'m', std::to_string(first.month)},
-                               {'M', Month(texts, first.month)},
-                               {'n', std::to_string(last.month)},
-                               {'N', Month(texts, last.month)},
-                               {'z', std::to_string(last.year)}});
+  return FillPattern(pattern, MonthsValues(texts, first, last));
+}
+
+std::string MonthsTextBrief(const Texts& texts, CivilDate first, CivilDate last) {
+  const char* pattern = first.year != last.year     ? texts.titleYearsBrief
+                        : first.month != last.month ? texts.titleMonthsBrief
+                                                    : texts.title;
+  return FillPattern(pattern, MonthsValues(texts, first, last));
 }
 
 std::string DayOfYearText(const Texts& texts, CivilDate date) {

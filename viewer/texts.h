@@ -15,27 +15,33 @@ namespace almara::viewer {
 
 // One language's words. In the patterns {y} stands for the year, {m} for the number of the month,
 // {M} for its name, {S} for its short name, {d} for the day and {w} for the day of the week; {n}
-// and {N} are the number and the name of a second month and {z} its year. Of a lunar date, {L} is
-// the name of the month and {D} that of the day. {c} is a count.
+// and {N} are the number and the name of a second month, {T} its short name and {z} its year. Of a
+// lunar date, {L} is the name of the month and {D} that of the day. {c} is a count.
 struct Texts {
   TextLanguage language = TextLanguage::kEnglish;
 
-  std::array<const char*, 7> weekdays{};  // short, from Sunday
+  std::array<const char*, 7> weekdays{};        // short, from Sunday
+  std::array<const char*, 7> narrowWeekdays{};  // at most two cells each
   std::array<const char*, 7> longWeekdays{};
   std::array<const char*, 12> months{};
   std::array<const char*, 12> shortMonths{};
 
-  const char* fullDate = nullptr;     // {y} {m} {M} {d} {w}
-  const char* dayOfMonth = nullptr;   // {S} {d}, in a list of names
-  const char* title = nullptr;        // {y} {m} {M}
-  const char* titleMonths = nullptr;  // {y} {m} {M} {n} {N}, two months of one year
-  const char* titleYears = nullptr;   // {y} {m} {M} {n} {N} {z}, months of two years
+  const char* fullDate = nullptr;          // {y} {m} {M} {d} {w}
+  const char* dayOfMonth = nullptr;        // {S} {d}, in a list of names
+  const char* title = nullptr;             // {y} {m} {M}
+  const char* titleMonths = nullptr;       // {y} {m} {M} {n} {N}, two months of one year
+  const char* titleYears = nullptr;        // {y} {m} {M} {n} {N} {z}, months of two years
+  const char* titleMonthsBrief = nullptr;  // {y} {m} {S} {n} {T}, in at most 20 cells
+  const char* titleYearsBrief = nullptr;   // {y} {m} {S} {n} {T} {z}, in at most 20 cells
 
   std::array<const char*, 12> lunarMonths{};  // null where numbers are used
   std::array<const char*, 30> lunarDays{};    // likewise
   const char* lunarMonth = nullptr;           // {m} {L}, under the first day of a month
   const char* lunarLeapMonth = nullptr;       // {m} {L}
   const char* lunarDay = nullptr;             // {d} {D}, under any other day
+  const char* lunarMonthBrief = nullptr;      // {m} {L}, the three in at most five cells
+  const char* lunarLeapMonthBrief = nullptr;  // {m} {L}
+  const char* lunarDayBrief = nullptr;        // {d} {D}
   const char* lunarDate = nullptr;            // {y} {m} {d} {L} {D}
   const char* lunarLeapDate = nullptr;        // {y} {m} {d} {L} {D}
 
@@ -67,6 +73,7 @@ Texts TextsFor(ELanguage region, bool utf8);
 
 // A day of the week from 0, Sunday, and a month from 1.
 const char* Weekday(const Texts& texts, ECalendarWeek day);
+const char* NarrowWeekday(const Texts& texts, ECalendarWeek day);
 const char* Month(const Texts& texts, int month);
 const char* ShortMonth(const Texts& texts, int month);
 
@@ -78,6 +85,9 @@ std::string DayOfMonthText(const Texts& texts, CivilDate date);
 
 // "February 2024", "February - March 2024" or "December 2023 - January 2024"
 std::string MonthsText(const Texts& texts, CivilDate first, CivilDate last);
+
+// The same with the short names of the months: "Feb - Mar 2024".
+std::string MonthsTextBrief(const Texts& texts, CivilDate first, CivilDate last);
 
 // "41 of 366"
 std::string DayOfYearText(const Texts& texts, CivilDate date);

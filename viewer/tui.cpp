@@ -42,16 +42,13 @@ constexpr const char* kHelp[] = {
 
 class Tui {
  public:
-  Tui(const Options& options, bool utf8, Screen& screen)
+  Tui(const Options& options, const PaintSettings& settings, Screen& screen)
       : m_navigator(options.board),
         m_screen(screen),
-        m_texts(TextsFor(options.board.language, utf8)),
+        m_texts(*settings.texts),
+        m_settings(settings),
         m_annotator(options.board.language),
-        m_annotations(options.annotations) {
-    m_settings.weekNumbers = options.weekNumbers;
-    m_settings.texts = &m_texts;
-    m_settings.glyphs = &GlyphsFor(utf8);
-  }
+        m_annotations(options.annotations) {}
 
   // Until the user leaves or a signal asks to stop. Throws if the terminal went away.
   void Run() {
@@ -119,10 +116,6 @@ class Tui {
       height += static_cast<int>(row.size());
     }
     return height;
-  }
-
-  static void Append(std::vector<Line>& lines, const std::vector<Line>& more) {
-    lines.insert(lines.end(), more.begin(), more.end());
   }
 
   // All rows, or as many as fit with the selected one among them.
@@ -237,7 +230,11 @@ class Tui {
   void AskForDate() { m_prompt = ""; }
   void ShowHelp() { m_help = true; }
   void Quit() { m_quit = true; }
-  void ToggleWeekNumbers() { m_settings.weekNumbers = !m_settings.weekNumbers; }
+  void ToggleWeekNumbers() {
+    const bool shown = m_settings.weekNumbers != WeekNumbers::kNever;
+    m_settings.weekNumbers = shown ? WeekNumbers::kNever : WeekNumbers::kAlways;
+  }
+
   void ToggleBreakDays() { m_navigator.ToggleBreakDays(); }
   void ToggleIntervals() { m_navigator.ToggleIntervals(); }
 
@@ -353,7 +350,7 @@ class Tui {
 
   Navigator m_navigator;
   Screen& m_screen;
-  const Texts m_texts;
+  const Texts& m_texts;
   PaintSettings m_settings;
   std::vector<Line> m_drawn;
   Annotator m_annotator;
@@ -366,17 +363,16 @@ class Tui {
 
 }  // namespace
 
-int RunTui(const Options& options, bool utf8, Output& output) {
+void RunTui(const Options& options, const PaintSettings& settings, Output& output) {
   if (!output.IsTerminal() || isatty(STDIN_FILENO) == 0) {
     throw UsageError("--tui needs a terminal");
   }
   {
     const StopSignals stopSignals;
-    Screen screen(output, UseColor(options.color, output));
-    Tui(options, utf8, screen).Run();
+    Screen screen(output, PaletteFor(options.color, output));
+    Tui(options, settings, screen).Run();
   }
   StopSignals::Deliver();
-  return 0;
 }
 
 }  // namespace almara::viewer

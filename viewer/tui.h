@@ -3,13 +3,14 @@
 #ifndef ALMARA_VIEWER_TUI_H_
 #define ALMARA_VIEWER_TUI_H_
 
+#include "board_painter.h"
 #include "options.h"
 #include "output.h"
 
 namespace almara::viewer {
 
-// Runs until the user leaves; returns the program's exit code. The board is built already.
-int RunTui(const Options& options, bool utf8, Output& output);
+// Runs until the user leaves. The board is built already; the settings say how to draw it.
+void RunTui(const Options& options, const PaintSettings& settings, Output& output);
 
 }  // namespace almara::viewer
 

@@ -142,7 +142,11 @@ class InstalledTree(unittest.TestCase):
             "development": headers | {
                 f"{LIBDIR}/libalmara.so", f"{LIBDIR}/pkgconfig/almara.pc",
                 "share/man/man3/almara.3"},
-            "viewer": {"bin/almara-board", "share/man/man1/almara-board.1"} if HAS_VIEWER else set()
+            "viewer": {
+                "bin/almara-board", "share/man/man1/almara-board.1",
+                "share/bash-completion/completions/almara-board",
+                "share/fish/vendor_completions.d/almara-board.fish",
+                "share/zsh/site-functions/_almara-board"} if HAS_VIEWER else set()
         }
         for component, files in expected.items():
             found = files_of(self.install(component, "--component", component))

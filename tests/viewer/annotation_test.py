@@ -87,8 +87,8 @@ class OnTheBoard(unittest.TestCase):
 
     def test_colors(self):
         board = output("--language", "usa", "--color=always")
-        self.assertIn("\033[35m Women's\033[0m", board)
-        self.assertIn("\033[32m Equinox\033[0m", board)
+        self.assertIn("\033[38;5;163m Women's\033[0m", board)
+        self.assertIn("\033[38;5;28m Equinox\033[0m", board)
         self.assertIn("\033[2m L25\033[0m", board)
 
     def test_cells_in_json(self):
@@ -185,12 +185,16 @@ Sunday, 31 March 2024
 class OneYear(unittest.TestCase):
     def test_text(self):
         text = output("--language", "jpn", "--list", "--year", "2024")
-        self.assertTrue(text.startswith("2024年1月\n   1 月    元日\n   6 土    小寒\n"))
+        self.assertTrue(text.startswith(
+            "2024年1月\n   1 月    71日前   元日\n   6 土    66日前   小寒\n"))
         self.assertEqual(text.count("\n\n"), 11)  # twelve months
-        self.assertIn("\n  23 月    天皇誕生日\n", text)
+        self.assertIn("\n  23 月    286日後  天皇誕生日\n", text)
+        english = output("--list", "--language", "eng", today="2024-03-19 10:00:00")
+        self.assertIn("\n  20 Wed   tomorrow     Spring Equinox\n", english)
 
     def test_this_year_by_default(self):
         self.assertEqual(output("--list"), output("--list", "--year", "2024"))
+        self.assertEqual(output("--list", "2025"), output("--list", "--year", "2025"))
 
     def test_json(self):
         year = read_json("--language", "chs", "--list", "--year", "2025")
@@ -202,8 +206,9 @@ class OneYear(unittest.TestCase):
         self.assertEqual(names(by_date["2025-10-06"], "localName"), ["中秋节"])
         for day in year["days"]:
             self.assertTrue(day["solarTerm"] or day["festivals"])
-            self.assertEqual(set(day), {"year", "month", "day", "dayOfWeek", "lunar", "solarTerm",
-                                        "festivals"})
+            self.assertEqual(set(day), {"year", "month", "day", "dayOfWeek", "daysFromToday", "lunar",
+                                        "solarTerm", "festivals"})
+        self.assertEqual(by_date["2025-01-29"]["daysFromToday"], 323)
 
 
 if __name__ == "__main__":

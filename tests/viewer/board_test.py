@@ -12,7 +12,7 @@ import unicodedata
 import unittest
 
 import cases
-from harness import BOARD, environment, needs_terminal, output
+from harness import BOARD, environment, needs_terminal, output, read_json
 
 PLAIN = ("--language", "eng", "--no-annotations")
 
@@ -136,9 +136,21 @@ class Options(unittest.TestCase):
         hidden = lines("--hide-break-days")
         self.assertEqual(hidden[1].split(), ["Wk", "Mon", "Tue", "Wed", "Thu", "Fri"])
         self.assertNotIn("·", "\n".join(hidden))
-        everything = output(*PLAIN, "--hide-break-days", "--break-days",
-                            "sun,mon,tue,wed,thu,fri,sat")
-        self.assertEqual(everything.strip().splitlines()[0].strip(), "March 2024")
+
+    def test_a_strip_hides_break_days_wherever_it_begins(self):
+        strip = ("--mode", "strip", "--hide-break-days")
+        self.assertEqual(lines(*strip), [
+            "                       March 2024",
+            "   Wk   Mon       Tue       Wed       Thu       Fri",
+            "10/11 ╶ 11       [12]       13        14        15"])
+        self.assertEqual(lines(*strip, "--date", "2024-03-15")[1].split()[1:],
+                         ["Tue", "Wed", "Thu", "Fri", "Mon"])
+        self.assertEqual(lines(*strip, "--date", "2024-03-15", "--next")[2].split()[2:],
+                         ["19", "20", "21", "22", "25"])
+        board = read_json(*strip)
+        self.assertEqual(board["headings"], [1, 2, 3, 4, 5])
+        self.assertEqual({cell["type"] for cell in board["cells"][0]}, {3, 4})
+        self.assertIs(board["options"]["showBreakDayOfWeek"], False)
 
     def test_date_shows_the_board_as_if_it_were_today(self):
         for mode in ("rolling", "tail", "month", "strip"):
@@ -281,16 +293,81 @@ class Colors(unittest.TestCase):
     def test_kinds_of_cells_have_their_own_color(self):
         board = output("--color=always")
         self.assertIn("\033[1;7m[12]\033[0m", board)
-        self.assertIn("\033[31m 16·\033[0m", board)
-        self.assertIn("\033[36m─ April ─", board)
+        self.assertIn("\033[38;5;160m 16·\033[0m", board)
+        self.assertIn("\033[38;5;31m─ April ─", board)
         self.assertEqual(re.sub(r"\033\[[0-9;]*m", "", board), output())
 
+    def test_basic_colors_are_those_that_can_be_read_on_black_and_on_white(self):
+        board = output("--color=always", "--rows", "50", TERM="xterm")
+        codes = {code for codes in re.findall(r"\033\[([0-9;]*)m", board)
+                 for code in codes.split(";")}
+        self.assertEqual(codes, {"0", "1", "2", "7", "31", "35"})
+
     @needs_terminal
-    def test_a_narrow_terminal_gets_a_narrow_board(self):
-        for columns in (79, 60, 40, 30):
-            for line in self.on_terminal("--color=never", columns=columns).splitlines():
-                self.assertLessEqual(cells_wide(line), columns, line)
-        self.assertEqual(self.on_terminal("--color=never", columns=200), output())
+    def test_the_board_takes_the_width_of_the_terminal(self):
+        for columns in (20, 33, 80, 200):
+            self.assertEqual(self.on_terminal("--color=never", columns=columns),
+                             output("--width", str(columns)))
+
+
+class Widths(unittest.TestCase):
+    REGIONS = ("chs", "cht", "deu", "eng", "jpn", "kor", "rus", "tha", "usa", "vit")
+
+    def test_nothing_is_wider_than_the_terminal(self):
+        for language in self.REGIONS:
+            for width in (20, 23, 31, 49):
+                for arguments in (("--rows", "8"), ("-w", "--rows", "8"), ("-3",), ("2024",),
+                                  ("--day", "2024-02-10"), ("--list",), ("--hide-break-days",),
+                                  ("--date", "2023-12-20", "--rows", "8")):
+                    text = output("--language", language, "--width", str(width), *arguments)
+                    widest = max(text.splitlines(), key=cells_wide)
+                    self.assertLessEqual(cells_wide(widest), width, (language, arguments))
+
+    def test_weekdays_stay_apart(self):
+        for language in self.REGIONS:
+            for width in (20, 28, 35, 42, 80):
+                head = output("--language", language, "--width", str(width)).splitlines()[1].split()
+                self.assertEqual(len(set(head[-7:])), 7, head)
+
+    def test_twenty_columns(self):
+        self.assertEqual(lines("--width", "20", "--rows", "6"), [
+            " March - April 2024",
+            "Mo Tu We Th Fr Sa Su",
+            " 4  5  6  7  8  9·10",
+            "11[12]13 14 15 16·17",
+            "18 19 20 21 22 23·24",
+            "25 26 27 28 29 30·31",
+            "─ April ────────────",
+            " 1  2  3  4  5  6· 7"])
+
+    def test_week_numbers_on_narrow_terminals(self):
+        self.assertEqual(lines("--width", "31")[3], "11  11 [12] 13  14  15  16· 17·")
+        self.assertEqual(lines("--width", "30")[3], " 11 [12] 13  14  15  16· 17·")
+        # Asked for, they stay as long as the days have two cells each.
+        self.assertEqual(lines("--width", "30", "-w")[3], "11 11[12]13 14 15 16·17·")
+        self.assertEqual(lines("--width", "23", "-w")[3], "11 11[12]13 14 15 16·17")
+        self.assertEqual(lines("--width", "22", "-w")[3], " 11[12]13 14 15 16·17·")
+
+    def test_columns_grow_to_the_longest_text(self):
+        wide = output("--language", "usa", "--width", "300")
+        self.assertIn("  Awakening of Insects  ", wide.split("\n\n")[0])
+        self.assertEqual(wide.splitlines()[1].index("Tue") - wide.splitlines()[1].index("Mon"),
+                         len("Awakening of Insects") + 2)
+        self.assertEqual(output(*PLAIN, "--width", "300"), output(*PLAIN))
+
+    def test_texts_keep_the_number_that_they_carry(self):
+        for language, month, day in [("eng", "M10", "L2"), ("kor", "10월", "음 2"),
+                                     ("jpn", "10月", "旧2日"), ("vit", "1/10", "ÂL 2"),
+                                     ("chs", "十月", "初二")]:
+            board = output("--language", language, "--date", "2024-11-01", "--width", "49",
+                           zone="Asia/Shanghai")
+            self.assertRegex(board, f" {month} +{day} ")
+
+    def test_lines_in_ascii_with_the_texts_of_the_region(self):
+        board = output("--language", "chs", "--ascii")
+        self.assertIn("   10 /  4 ", board)
+        self.assertIn("- 四月 ---", board)
+        self.assertFalse(set("╭│╰─·…") & set(output("--language", "chs", "--ascii", "--rows", "9")))
 
 
 class Dump(unittest.TestCase):

@@ -14,7 +14,8 @@ class Usage(unittest.TestCase):
         for option in ("--mode", "--date", "--rows", "--passed-weeks", "--first-day", "--week-rule",
                        "--start-week", "-w", "-M", "-S", "--hide-break-days", "--break-days",
                        "--no-month-interval", "--language", "--next", "--previous", "--offset",
-                       "--day", "--list", "--year", "--no-annotations", "--json", "--color", "--tui", "--dump"):
+                       "--day", "--list", "--year", "--no-annotations", "--json", "--color", "--tui",
+                       "--dump", "-m", "-3", "-A", "-B", "-y", "--ascii", "--width", "--no-config"):
             self.assertIn(option, text)
         self.assertLessEqual(max(len(line) for line in text.splitlines()), 80)
         self.assertRegex(output("--version"), r"^almara-board \d+\.\d+\.\d+\n$")
@@ -50,13 +51,40 @@ class Usage(unittest.TestCase):
                 (("--list", "--day", "2024-01-01"), "--day: cannot be combined with --list"),
                 (("--tui", "--list"), "--list: cannot be combined with --tui"),
                 (("--tui",), "--tui needs a terminal"),
+                (("--mode", "month", "--rows", "3"), "--rows: is for --mode rolling and tail"),
+                (("--mode", "strip", "--rows", "3"), "--rows: is for --mode rolling and tail"),
+                (("2", "2024", "--rows", "3"), "--rows: is for --mode rolling and tail"),
+                (("--mode", "month", "--passed-weeks", "0"),
+                 "--passed-weeks: is for --mode rolling"),
+                (("--list", "--next"), "--next: cannot be combined with --list"),
+                (("--list", "-S"), "-S: cannot be combined with --list"),
+                (("--day", "2024-01-01", "--rows", "3"), "--rows: cannot be combined with --day"),
+                (("--date", "2024-01-01", "--offset", "1"),
+                 "--offset: jumps from today, so it cannot be combined with a date"),
+                (("feb", "--offset", "1"),
+                 "--offset: jumps from today, so it cannot be combined with a date"),
+                (("feb", "--date", "2024-01-01"),
+                 "--date: cannot be combined with a month or a year"),
+                (("-y", "feb"), "-y: shows a year, not a month"),
+                (("2024", "-3"), "2024: cannot be combined with -3"),
+                (("2024", "--tui"), "2024: cannot be combined with --tui"),
+                (("feb", "--list"), "feb: cannot be combined with --list"),
+                (("2024", "--json"), "--json: cannot be combined with 2024"),
+                (("-3", "--json"), "--json: cannot be combined with -3"),
+                (("-3", "--next"), "--next: cannot be combined with -3"),
+                (("-A", "100"), "-A: expected a number from 0 to 99, not '100'"),
+                (("--hide-break-days", "--break-days", "sun,mon,tue,wed,thu,fri,sat"),
+                 "--hide-break-days: would hide every day"),
+                (("--width", "19"), "--width: expected a number from 20 to 1000, not '19'"),
+                (("--nope",), "unknown argument '--nope'; see almara-board --help"),
+                (("1", "2", "2024", "5"), "unknown argument '5'; see almara-board --help"),
+                (("30", "2", "2024"), "day: expected a number from 1 to 29, not '30'"),
         ]:
             result = run(*arguments)
             self.assertEqual((result.returncode, result.stdout, result.stderr),
                              (2, "", f"almara-board: {line}\n"), arguments)
         for arguments in (("--language", "french"), ("--break-days", "sat,x"), ("--break-days", ""),
-                          ("--first-day", "7"), ("--week-rule", "us"), ("--nope",), ("2024",),
-                          ("--rows", "4\n5")):
+                          ("--first-day", "7"), ("--week-rule", "us"), ("--rows", "4\n5")):
             result = run(*arguments)
             self.assertEqual((result.returncode, result.stdout), (2, ""), arguments)
             self.assertRegex(result.stderr, r"\Aalmara-board: [^\n]+\n\Z", arguments)
@@ -77,6 +105,13 @@ class Usage(unittest.TestCase):
         result = run("--rows", "\x9b31m\x1b4")
         self.assertEqual(result.stderr,
                          "almara-board: --rows: expected a number from 1 to 50, not '?31m?4'\n")
+
+    def test_arguments_that_are_no_month_and_no_year(self):
+        for argument in ("1899", "2100", "0", "13", "ju", "x", "febx", "2024-13", "2024-02-30"):
+            result = run(argument)
+            self.assertEqual((result.returncode, result.stderr),
+                             (2, f"almara-board: '{argument}' is neither a month nor a year from "
+                                 "1900 to 2099; see almara-board --help\n"))
 
     def test_the_last_offset_inside_the_calendar(self):
         self.assertIn("January 1900", output("--mode", "month", "--offset", "-1490"))

@@ -7,6 +7,7 @@ Texts TextsChineseSimplified() {
   Texts texts;
   texts.language = TextLanguage::kChineseSimplified;
   texts.weekdays = {"周日", "周一", "周二", "周三", "周四", "周五", "周六"};
+  texts.narrowWeekdays = {"日", "一", "二", "三", "四", "五", "六"};
   texts.longWeekdays = {"星期日", "星期一", "星期二", "星期三", "星期四", "星期五", "星期六"};
   texts.months = {"一月", "二月", "三月", "四月", "五月",   "六月",
                   "七月", "八月", "九月", "十月", "十一月", "十二月"};
@@ -18,6 +19,8 @@ Texts TextsChineseSimplified() {
   texts.title = "{y}年{m}月";
   texts.titleMonths = "{y}年{m}月 - {n}月";
   texts.titleYears = "{y}年{m}月 - {z}年{n}月";
+  texts.titleMonthsBrief = "{y}年{m}月 - {n}月";
+  texts.titleYearsBrief = "{y}/{m} - {z}/{n}";
 
   texts.lunarMonths = {"正月", "二月", "三月", "四月", "五月", "六月",
                        "七月", "八月", "九月", "十月", "冬月", "腊月"};
@@ -28,6 +31,9 @@ Texts TextsChineseSimplified() {
   texts.lunarMonth = "{L}";
   texts.lunarLeapMonth = "闰{L}";
   texts.lunarDay = "{D}";
+  texts.lunarMonthBrief = "{L}";
+  texts.lunarLeapMonthBrief = "闰{m}";
+  texts.lunarDayBrief = "{D}";
   texts.lunarDate = "{y}年{L}{D}";
   texts.lunarLeapDate = "{y}年闰{L}{D}";
 

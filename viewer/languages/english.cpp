@@ -7,6 +7,7 @@ Texts TextsEnglish() {
   Texts texts;
   texts.language = TextLanguage::kEnglish;
   texts.weekdays = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+  texts.narrowWeekdays = {"Su", "Mo", "Tu", "We", "Th", "Fr", "Sa"};
   texts.longWeekdays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
                         "Thursday", "Friday", "Saturday"};
   texts.months = {"January", "February", "March",     "April",   "May",      "June",
@@ -19,10 +20,15 @@ Texts TextsEnglish() {
   texts.title = "{M} {y}";
   texts.titleMonths = "{M} - {N} {y}";
   texts.titleYears = "{M} {y} - {N} {z}";
+  texts.titleMonthsBrief = "{S} - {T} {y}";
+  texts.titleYearsBrief = "{S} {y} - {T} {z}";
 
   texts.lunarMonth = "Moon {m}";
   texts.lunarLeapMonth = "Leap {m}";
   texts.lunarDay = "L{d}";
+  texts.lunarMonthBrief = "M{m}";
+  texts.lunarLeapMonthBrief = "Lp{m}";
+  texts.lunarDayBrief = "L{d}";
   texts.lunarDate = "day {d} of month {m}, {y}";
   texts.lunarLeapDate = "day {d} of leap month {m}, {y}";
 

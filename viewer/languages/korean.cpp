@@ -7,6 +7,7 @@ Texts TextsKorean() {
   Texts texts;
   texts.language = TextLanguage::kKorean;
   texts.weekdays = {"일", "월", "화", "수", "목", "금", "토"};
+  texts.narrowWeekdays = {"일", "월", "화", "수", "목", "금", "토"};
   texts.longWeekdays = {"일요일", "월요일", "화요일", "수요일", "목요일", "금요일", "토요일"};
   texts.months = {"1월", "2월", "3월", "4월",  "5월",  "6월",
                   "7월", "8월", "9월", "10월", "11월", "12월"};
@@ -18,10 +19,15 @@ Texts TextsKorean() {
   texts.title = "{y}년 {m}월";
   texts.titleMonths = "{y}년 {m}월 - {n}월";
   texts.titleYears = "{y}년 {m}월 - {z}년 {n}월";
+  texts.titleMonthsBrief = "{y}년 {m}월 - {n}월";
+  texts.titleYearsBrief = "{y}.{m} - {z}.{n}";
 
   texts.lunarMonth = "음 {m}월";
   texts.lunarLeapMonth = "윤 {m}월";
   texts.lunarDay = "음 {d}";
+  texts.lunarMonthBrief = "{m}월";
+  texts.lunarLeapMonthBrief = "윤{m}";
+  texts.lunarDayBrief = "음{d}";
   texts.lunarDate = "{y}년 {m}월 {d}일";
   texts.lunarLeapDate = "{y}년 윤{m}월 {d}일";
 

@@ -7,6 +7,7 @@ Texts TextsVietnamese() {
   Texts texts;
   texts.language = TextLanguage::kVietnamese;
   texts.weekdays = {"CN", "T2", "T3", "T4", "T5", "T6", "T7"};
+  texts.narrowWeekdays = {"CN", "T2", "T3", "T4", "T5", "T6", "T7"};
   texts.longWeekdays = {"Chủ Nhật", "Thứ Hai", "Thứ Ba", "Thứ Tư", "Thứ Năm", "Thứ Sáu", "Thứ Bảy"};
   texts.months = {"Tháng 1", "Tháng 2", "Tháng 3", "Tháng 4",  "Tháng 5",  "Tháng 6",
                   "Tháng 7", "Tháng 8", "Tháng 9", "Tháng 10", "Tháng 11", "Tháng 12"};
@@ -18,10 +19,15 @@ Texts TextsVietnamese() {
   texts.title = "{M} năm {y}";
   texts.titleMonths = "{M} - {N} năm {y}";
   texts.titleYears = "{M} năm {y} - {N} năm {z}";
+  texts.titleMonthsBrief = "{S} - {T} {y}";
+  texts.titleYearsBrief = "{m}/{y} - {n}/{z}";
 
   texts.lunarMonth = "Tháng {m}";
   texts.lunarLeapMonth = "Nhuận {m}";
   texts.lunarDay = "ÂL {d}";
+  texts.lunarMonthBrief = "1/{m}";
+  texts.lunarLeapMonthBrief = "1/{m}N";
+  texts.lunarDayBrief = "{d}";
   texts.lunarDate = "ngày {d} tháng {m} năm {y}";
   texts.lunarLeapDate = "ngày {d} tháng {m} nhuận năm {y}";
 

@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: MIT
+#include "program.h"
+
+#include <stdexcept>
+#include <string>
+
+#include "annotations.h"
+#include "board_host.h"
+#include "board_painter.h"
+#include "error_report.h"
+#include "json_output.h"
+#include "listing.h"
+#include "month_grid.h"
+#include "tui.h"
+
+namespace almara::viewer {
+namespace {
+
+constexpr int kIndent = 4;  // of the second line of a text that one line has no room for
+
+class Program {
+ public:
+  Program(const Options& options, const LocaleSettings& locale, Output& output)
+      : m_options(options),
+        m_utf8(locale.utf8),
+        m_output(output),
+        m_texts(TextsFor(options.board.language, locale.utf8)),
+        m_annotator(options.board.language) {
+    m_settings.width = options.columns.value_or(output.Columns());
+    m_settings.weekNumbers = options.weekNumbers;
+    m_settings.texts = &m_texts;
+    m_settings.glyphs = &GlyphsFor(locale.utf8 && locale.narrowLines && !options.ascii);
+    m_settings.annotator = options.annotations ? &m_annotator : nullptr;
+  }
+
+  void Run() {
+    StartEngine(m_options.board);
+    CheckClock();
+    CheckOffsets();
+    switch (m_options.task) {
+      case Task::kShowBoard:
+        ShowBoard();
+        break;
+      case Task::kShowMonths:
+        ShowMonths();
+        break;
+      case Task::kShowYear:
+        ShowYear();
+        break;
+      case Task::kShowDay:
+        ShowDay();
+        break;
+      case Task::kListYear:
+        ListYear();
+        break;
+      case Task::kFullScreen:
+        Navigate();
+        RunTui(m_options, m_settings, m_output);
+        break;
+      case Task::kPrintText:
+        break;
+    }
+  }
+
+ private:
+  bool IsDated() const {
+    return m_options.date || m_options.year || m_options.when.year ||
+           m_options.task == Task::kShowDay;
+  }
+
+  // What is asked for without a date is about today.
+  void CheckClock() const {
+    const CivilDate today = ReadToday();
+    if (!IsDated() && !IsInCalendar(today)) {
+      throw std::runtime_error("the clock says " + IsoText(today) +
+                               ", outside the years 1900 to 2099; give a date or a year");
+    }
+  }
+
+  void CheckOffsets() const {
+    for (const Step& step : m_options.steps) {
+      if (step.kind == Step::Kind::kOffset &&
+          !OffsetStaysInRange(m_options.board, ReadToday(), step.offset)) {
+        throw UsageError("--offset: " + std::to_string(step.offset) +
+                         " leads outside the years 1900 to 2099");
+      }
+    }
+  }
+
+  // The day to show: the one that was asked for, or today.
+  CivilDate Focus() const {
+    if (m_options.date) {
+      return *m_options.date;
+    }
+    const CivilDate today = ReadToday();
+    const When& when = m_options.when;
+    if (!when.year && !when.month) {
+      return today;
+    }
+    return {when.year.value_or(today.year), when.month.value_or(1), when.day.value_or(1)};
+  }
+
+  void Navigate() const {
+    if (m_options.date || m_options.when.year || m_options.when.month) {
+      ShowDate(m_options.board, Focus());
+    }
+    for (const Step& step : m_options.steps) {
+      TakeStep(step);
+    }
+  }
+
+  void ShowBoard() {
+    Navigate();
+    const BoardSnapshot board = ReadBoard(m_options.board);
+    if (m_options.json) {
+      m_output.Write(BoardJson(board, m_annotator, !m_utf8));
+      return;
+    }
+    const PaintedBoard painted = PaintBoard(board, m_settings);
+    std::vector<Line> lines = {painted.title, painted.headings};
+    for (const auto& row : painted.rows) {
+      Append(lines, row);
+    }
+    AppendLegend(lines, ShownDays(board));
+    Print(lines);
+  }
+
+  void AppendLegend(std::vector<Line>& lines, const std::vector<CivilDate>& days) {
+    if (!m_options.annotations) {
+      return;
+    }
+    const std::vector<Line> legend =
+        LegendLines(NamedDays(days, m_annotator), m_texts, m_settings.width);
+    if (!legend.empty()) {
+      lines.emplace_back();
+      Append(lines, legend);
+    }
+  }
+
+  // The boards of some months that follow each other, as far as the calendar goes.
+  std::vector<BoardSnapshot> MonthBoards(CivilDate first, int count) const {
+    BoardOptions options = m_options.board;
+    options.mode = eDispMonthWholeMonth;
+    options.monthIntervals = true;
+    ApplyOptions(options);
+    std::vector<BoardSnapshot> boards;
+    const int begin = MonthNumberOf(first);
+    for (int month = begin; month < begin + count; ++month) {
+      const CivilDate date = FirstOfMonth(month);
+      if (IsInCalendar(date)) {
+        ShowDate(options, date);
+        boards.push_back(ReadBoard(options));
+      }
+    }
+    return boards;
+  }
+
+  void ShowMonths() {
+    const CivilDate first = FirstOfMonth(MonthNumberOf(Focus()) - m_options.monthsBefore);
+    const std::vector<BoardSnapshot> boards =
+        MonthBoards(first, m_options.monthsBefore + 1 + m_options.monthsAfter);
+    std::vector<Line> lines = MonthGridLines(boards, false, m_settings);
+    std::vector<CivilDate> days;
+    for (const BoardSnapshot& board : boards) {
+      const std::vector<CivilDate> shown = ShownDays(board);
+      days.insert(days.end(), shown.begin(), shown.end());
+    }
+    AppendLegend(lines, days);
+    Print(lines);
+  }
+
+  void ShowYear() {
+    const int year = Focus().year;
+    Print(MonthGridLines(MonthBoards({year, 1, 1}, 12), true, m_settings));
+  }
+
+  void ShowDay() {
+    BoardOptions month = m_options.board;
+    month.mode = eDispMonthWholeMonth;
+    month.hideBreakDays = false;
+    ApplyOptions(month);
+    ShowDate(month, m_options.day);
+    const BoardSnapshot board = ReadBoard(month);
+    const tagCalendarCell* cell = FindDay(board, m_options.day);
+    const DayReport report = {m_options.day, board.today, cell != nullptr ? cell->weekNumber : -1,
+                              m_annotator.Annotate(m_options.day)};
+    if (m_options.json) {
+      m_output.Write(DayJson(report, m_options.board.language, !m_utf8));
+    } else {
+      Print(DayLines(report, m_texts));
+    }
+  }
+
+  void ListYear() {
+    const CivilDate today = ReadToday();
+    const int year = m_options.year.value_or(today.year);
+    const std::vector<NamedDay> days = NamedDaysOfYear(year, m_annotator);
+    if (m_options.json) {
+      m_output.Write(YearJson(year, today, days, m_options.board.language, !m_utf8));
+    } else {
+      Print(YearLines(year, today, days, m_texts));
+    }
+  }
+
+  void Print(const std::vector<Line>& lines) {
+    std::vector<Line> fitting;
+    for (const Line& line : lines) {
+      Append(fitting, Wrapped(line, m_settings.width, kIndent));
+    }
+    m_output.Write(fitting, PaletteFor(m_options.color, m_output));
+  }
+
+  const Options& m_options;
+  bool m_utf8;
+  Output& m_output;
+  const Texts m_texts;
+  Annotator m_annotator;
+  PaintSettings m_settings;
+};
+
+}  // namespace
+
+void RunProgram(const Options& options, const LocaleSettings& locale, Output& output) {
+  if (options.task == Task::kPrintText) {
+    output.Write(options.text);
+  } else {
+    Program(options, locale, output).Run();
+  }
+}
+
+}  // namespace almara::viewer
