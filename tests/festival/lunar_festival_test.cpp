@@ -161,6 +161,10 @@ TEST_F(LunarFestivals, AMonth12ThatALeapMonthFollowsHasNoEve) {
 
 // ---- The rule by lunar dates alone ----
 
+TEST(LunarFestivalRule, NoFestivalFallsOnDay0) {
+  EXPECT_EQ(RegionLunarFestival(eLanguageChs, 12, 0), eFestivalLunarNone);
+}
+
 TEST(LunarFestivalRule, AsksForTheNextDayOnlyWhereItDecides) {
   int asked = 0;
   const auto festival = [&](ELanguage language, CCalendarLunarDate lunar, CCalendarLunarDate next) {

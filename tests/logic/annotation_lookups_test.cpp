@@ -103,6 +103,11 @@ TEST_F(AnnotationMemo, KeepsEveryInt) {
   EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {-1, 1, 1, 0}), nullptr);
 }
 
+TEST_F(AnnotationMemo, AFirstQuestionOfZeroesIsNotTakenForKept) {
+  EXPECT_NE(engine.ConverterLunar({0, 0, 0, 0}).month, 0);
+  EXPECT_EQ(engine.Check24Sekki({0, 0, 0, 0}), eSekkiNone);
+}
+
 TEST_F(AnnotationMemo, DaysThatShareAPageKeepTheirOwnAnswers) {
   engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 33, 0});
   EXPECT_EQ(engine.m_mapFestivalSolarCache.Find(eLanguageChs, {2024, 1, 1, 0}), nullptr);

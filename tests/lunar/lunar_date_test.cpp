@@ -145,6 +145,23 @@ TEST(LunarDate, HoldsThroughTheRestartOfTheSearch) {
   }
 }
 
+// Where the solstice or equinox shares its day with the new moon before it, that day begins the
+// first month of the quarter.
+TEST(LunarDate, AQuarterMayBeginWithItsFirstMonth) {
+  EXPECT_EQ(Lunar(1900, 12, 23, 8), "1900-11-2");
+  EXPECT_EQ(Lunar(1987, 9, 24, 8), "1987-8-2");
+  EXPECT_EQ(Lunar(1995, 12, 22, 8), "1995-11-1");
+  EXPECT_EQ(Lunar(1995, 12, 23, 8), "1995-11-2");
+}
+
+// Thirty days after a new moon the search finds the next one, thirty-one days after it may not.
+TEST(LunarDate, NoMonthOf1936IsPassedOver) {
+  EXPECT_EQ(Lunar(1936, 2, 23, 8), "1936-2-1");
+  EXPECT_EQ(Lunar(1936, 3, 23, 8), "1936-3-1");
+  EXPECT_EQ(Lunar(1936, 4, 21, 8), "1936-3L-1");
+  EXPECT_EQ(Lunar(1936, 5, 21, 8), "1936-4-1");
+}
+
 TEST(LunarDate, Leap11Of2033FollowsMonth10) {
   for (const int zone : {8, 9}) {
     EXPECT_EQ(Lunar(2033, 8, 25, zone), "2033-7L-1");
@@ -176,6 +193,12 @@ TEST(LunarDateSpan, ADateAMillionYearsAwayIsConverted) {
       EXPECT_TRUE(lunar.month >= 1 && lunar.month <= 12) << year;
     }
   }
+}
+
+// The calendars drift apart; only months 10 to 12 belong to the year before.
+TEST(LunarDateSpan, AMonthBefore10KeepsItsYear) {
+  EXPECT_EQ(Lunar(200000, 1, 15, 8), "200000-2-3");
+  EXPECT_EQ(Lunar(200000, 8, 15, 8), "200000-9-11");
 }
 
 // Some 12,000 centuries away the Sun still moves on all the time, on the far side of -11,500 and

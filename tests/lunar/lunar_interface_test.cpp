@@ -141,7 +141,8 @@ TEST(SolarTermsClass, FebruaryIsThatOfTheYearWorkedOnLast) {
   EXPECT_EQ(after([&] { table._Ymd2Jd(1900, 1, 1); }), 28);
   EXPECT_EQ(after([&] { table._GetSekkiByYear(2024, results); }), 29);
   EXPECT_EQ(after([&] { table._Ymd2Jd(2023, 1, 1); }), 28);
-  EXPECT_EQ(after([&] { table.Check24Sekki(2104, 1, 1); }), 28);  // outside its years
+  EXPECT_EQ(after([&] { table.Check24Sekki(1604, 1, 1); }), 28);  // outside its years
+  EXPECT_EQ(after([&] { table.Check24Sekki(2104, 1, 1); }), 28);
   EXPECT_EQ(table.SumOfDays(), 365);
 }
 
