@@ -2,6 +2,7 @@
 //
 // One call of each exported function of the shared library, as a bridge makes it. Look-ups are of a
 // date that is kept already; boards are those of the default options.
+#include <almara/almanac.h>
 #include <almara/almara.h>
 #include <benchmark/benchmark.h>
 
@@ -58,6 +59,35 @@ BENCHMARK_CAPTURE(Read, CheckFestivalSolarWithLang,
                   [] { return CheckFestivalSolarWithLang(eLanguageChs, kDate); });
 BENCHMARK_CAPTURE(Read, CheckFestivalLunarWithLang,
                   [] { return CheckFestivalLunarWithLang(eLanguageChs, kDate); });
+
+BENCHMARK_CAPTURE(Read, AlmanacCalendarAtOffset, [] { return AlmanacCalendarAtOffset(345); });
+BENCHMARK_CAPTURE(Read, AlmanacCalendarOfLanguage,
+                  [] { return AlmanacCalendarOfLanguage(eLanguageKor); });
+BENCHMARK_CAPTURE(Read, AlmanacLunarDate, [] { return AlmanacLunarDate(eAlmanacChina, kDate); });
+BENCHMARK_CAPTURE(Read, AlmanacSolarDate, [] {
+  return AlmanacSolarDate(eAlmanacChina, {2024, 1, 1, 0, 0});
+});
+BENCHMARK_CAPTURE(Read, AlmanacFirstDayOfYear,
+                  [] { return AlmanacFirstDayOfYear(eAlmanacChina, 2024); });
+BENCHMARK_CAPTURE(Read, AlmanacDaysOfYear, [] { return AlmanacDaysOfYear(eAlmanacChina, 2024); });
+BENCHMARK_CAPTURE(Read, AlmanacMonthsOfYear,
+                  [] { return AlmanacMonthsOfYear(eAlmanacChina, 2024); });
+BENCHMARK_CAPTURE(Read, AlmanacLeapMonth, [] { return AlmanacLeapMonth(eAlmanacChina, 2024); });
+BENCHMARK_CAPTURE(Read, AlmanacDaysOfMonth,
+                  [] { return AlmanacDaysOfMonth(eAlmanacChina, 2024, 1, 0); });
+BENCHMARK_CAPTURE(Read, AlmanacNextAnniversary, [] {
+  return AlmanacNextAnniversary(eAlmanacChina, {0, 1, 1, 0, 0}, kDate,
+                                eAlmanacAnniversaryEveryYear);
+});
+BENCHMARK_CAPTURE(Read, AlmanacTermInstant,
+                  [] { return AlmanacTermInstant(eAlmanacChina, 2024, eSekkiSpringEquinox); });
+BENCHMARK_CAPTURE(Read, AlmanacNewMoonOfYear,
+                  [] { return AlmanacNewMoonOfYear(eAlmanacChina, 2024, 1); });
+BENCHMARK_CAPTURE(Read, AlmanacNewMoonOfMonth,
+                  [] { return AlmanacNewMoonOfMonth(eAlmanacChina, 2024, 1, 0); });
+BENCHMARK_CAPTURE(Read, AlmanacTermOfDate, [] { return AlmanacTermOfDate(eAlmanacChina, kDate); });
+BENCHMARK_CAPTURE(Read, AlmanacLunarFestival,
+                  [] { return AlmanacLunarFestival(eAlmanacChina, eLanguageChs, kDate); });
 
 BENCHMARK_CAPTURE(Read, GetDispMonth, [] { return GetDispMonth(); });
 BENCHMARK_CAPTURE(Call, SetDispMonth, [] { SetDispMonth(eDispMonthRollingWeeks); });

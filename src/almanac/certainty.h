@@ -14,6 +14,11 @@ constexpr int kErrorOfTerms = 3;
 // measured three standard errors of its prognosis.
 int UncertaintyInYear(int year, int errorOfTable);
 
+// Whether an instant within a second of the day, 0 to 86399, is certain of its day.
+constexpr bool IsDayCertain(int second, int uncertainty) {
+  return second >= uncertainty && second < 86400 - uncertainty;
+}
+
 }  // namespace almara
 
 #endif  // ALMARA_ALMANAC_CERTAINTY_H_

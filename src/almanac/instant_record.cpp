@@ -17,7 +17,6 @@ AlmanacInstant RecordOf(const Reckoning& reckoning, std::int64_t instant, int er
   const int second = static_cast<int>((instant + offset) % kSecondsOfDay);
   const CCalendarSolarDate date = DateOfDayNumber(CivilDay(reckoning, instant));
   const int uncertainty = UncertaintyInYear(date.year, errorOfTable);
-  const bool certain = second >= uncertainty && second < kSecondsOfDay - uncertainty;
   return {date.year,
           date.month,
           date.day,
@@ -27,7 +26,7 @@ AlmanacInstant RecordOf(const Reckoning& reckoning, std::int64_t instant, int er
           second % kSecondsOfMinute,
           offset,
           uncertainty,
-          certain ? 1 : 0};
+          IsDayCertain(second, uncertainty) ? 1 : 0};
 }
 
 }  // namespace

@@ -93,6 +93,15 @@ TEST(AlmanacCertainty, GrowsFromTheLastYearMeasured) {
   EXPECT_EQ(UncertaintyInYear(2099, kErrorOfTerms), 4 + 105);
 }
 
+TEST(AlmanacCertainty, EndsWhereMidnightIsAsNear) {
+  EXPECT_FALSE(IsDayCertain(0, 4));
+  EXPECT_FALSE(IsDayCertain(3, 4));
+  EXPECT_TRUE(IsDayCertain(4, 4));
+  EXPECT_TRUE(IsDayCertain(86395, 4));  // within 4 to 5 seconds of midnight
+  EXPECT_FALSE(IsDayCertain(86396, 4));
+  EXPECT_FALSE(IsDayCertain(86399, 4));
+}
+
 TEST(Almanac, AllocatesNothing) {
   const std::size_t before = g_allocations;
   for (const EAlmanacCalendar calendar : {EAlmanacCalendar{eAlmanacChina}, CalendarAtOffset(345)}) {

@@ -191,6 +191,7 @@ TEST(AlmanacSolarDate, HasNoAnswerForADayThatThereIsNot) {
   EXPECT_EQ(SolarText(eAlmanacChina, 2099, 11, 20), "2099-12-31");
   EXPECT_EQ(SolarText(eAlmanacChina, 2099, 11, 21), kNoDate);  // 2100-01-01
   const CCalendarLunarDate none[] = {
+      {2023, 2, 1, 0, -1},   {2100, 11, 1, 0, 0},   {2100, 12, 1, 0, 0},   {kMin, 10, 1, 0, 0},
       {2024, 0, 1, 0, 0},    {2024, 13, 1, 0, 0},   {2024, 1, 0, 0, 0},    {2024, 1, 31, 0, 0},
       {2024, 1, 1, 0, 2},    {2024, 1, 1, 0, -1},   {1899, 10, 1, 0, 0},   {2100, 1, 1, 0, 0},
       {kMin, 1, 1, 0, 0},    {kMax, 1, 1, 0, 0},    {kMax, 12, 1, 0, 0},   {2024, kMin, 1, 0, 0},
