@@ -286,23 +286,6 @@ class AlmaraEngine {
     }
   }
 
-  /// Whether builds write the board to the standard output. True by default;
-  /// an application has no use for it.
-  bool get printBoard => _c.GetPrintBoard();
-  set printBoard(bool value) => _c.SetPrintBoard(value);
-
-  /// The version of the loaded library, for example "1.1.0".
-  String get libraryVersion =>
-      _c.GetLibraryVersion().cast<Utf8>().toDartString();
-
-  /// Forgets every kept answer about dates, the time zone and [region], as if
-  /// the library had just been loaded. Options and [board] stay. Call [start]
-  /// next. For a change of language at run time, and after a hot restart.
-  void forgetAnnotations() {
-    _c.ForgetAnnotations();
-    _region = null;
-  }
-
   static int _known(Enum value, int code) => code == -1
       ? throw ArgumentError.value(value, null, 'not a value of the library')
       : code;
