@@ -10,13 +10,33 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+constexpr int kVersion = 1;  // goes up when a key changes its meaning
+
+constexpr Word<ECalendarItem> kTypeWords[] = {{"empty", eCalendarItemEmpty},
+                                              {"blank", eCalendarItemBlank},
+                                              {"day", eCalendarItemDay},
+                                              {"today", eCalendarItemToday},
+                                              {"breakDay", eCalendarItemBreakDay},
+                                              {"todayBreakDay", eCalendarItemTodayBreakDay},
+                                              {"monthTitle", eCalendarItemMonthTitle}};
+
 Json DateJson(const CCalendarSolarDate& date) {
-  return {
-      {"year", date.year}, {"month", date.month}, {"day", date.day}, {"dayOfWeek", date.dayOfWeek}};
+  const CivilDate civil = DateOf(date);
+  return {{"date", IsoText(civil)},      {"year", date.year},
+          {"month", date.month},         {"day", date.day},
+          {"dayOfWeek", date.dayOfWeek}, {"dayOfWeekName", WordFor(kDayWords, DayOfWeek(civil))}};
 }
 
-Json BreakDaysJson(const BoardOptions& options) {
-  Json days = Json::array();
+Json DayNamesJson(const std::vector<ECalendarWeek>& days) {
+  Json names = Json::array();
+  for (const ECalendarWeek day : days) {
+    names.push_back(WordFor(kDayWords, day));
+  }
+  return names;
+}
+
+std::vector<ECalendarWeek> BreakDays(const BoardOptions& options) {
+  std::vector<ECalendarWeek> days;
   for (int day = eCalendarWeekSunday; day <= eCalendarWeekSaturday; ++day) {
     if (options.breakDays[static_cast<std::size_t>(day)]) {
       days.push_back(day);
@@ -32,13 +52,15 @@ Json OptionsJson(const BoardSnapshot& board) {
           {"maxRow", options.rows},
           {"passedWeeks", options.passedWeeks},
           {"startDayOfWeek", options.firstDay},
+          {"startDayOfWeekName", WordFor(kDayWords, options.firstDay)},
           {"startWeekNumber", options.startWeek},
           {"weekRule", WordFor(kWeekRuleWords, options.weekRule)},
           {"weekNumberCalcType", options.weekRule},
           {"hideBreakDay", board.hideBreakDay},
           {"showBreakDayOfWeek", board.showBreakDayOfWeek},
           {"showMonthInterval", options.monthIntervals},
-          {"breakDays", BreakDaysJson(options)},
+          {"breakDays", BreakDays(options)},
+          {"breakDayNames", DayNamesJson(BreakDays(options))},
           {"region", WordFor(kLanguageWords, options.language)},
           {"language", options.language},
           {"configKey", board.configKey}};
@@ -83,15 +105,21 @@ void AddAnnotation(Json& day, const Annotation& annotation, ELanguage region) {
 }
 
 Json CellJson(const tagCalendarCell& cell, Annotator& annotator, ELanguage region) {
-  Json json = {{"year", cell.year},
+  // A cell that shows no day may still have the date of one that is kept back.
+  const bool dated = cell.year != 0;
+  const CivilDate date = DateOf(cell);
+  Json json = {{"date", dated ? Json(IsoText(date)) : Json()},
+               {"year", cell.year},
                {"month", cell.month},
                {"day", cell.day},
                {"dayOfWeek", cell.dayOfWeek},
+               {"dayOfWeekName", dated ? Json(WordFor(kDayWords, DayOfWeek(date))) : Json()},
                {"weekNumber", cell.weekNumber},
                {"row", cell.row},
                {"column", cell.column},
-               {"type", cell.type}};
-  AddAnnotation(json, ShowsDay(cell) ? annotator.Annotate(DateOf(cell)) : Annotation{}, region);
+               {"type", cell.type},
+               {"typeName", WordFor(kTypeWords, cell.type)}};
+  AddAnnotation(json, ShowsDay(cell) ? annotator.Annotate(date) : Annotation{}, region);
   return json;
 }
 
@@ -116,24 +144,30 @@ std::string Print(const Json& json, bool ascii) { return json.dump(2, ' ', ascii
 }  // namespace
 
 std::string BoardJson(const BoardSnapshot& board, Annotator& annotator, bool ascii) {
-  return Print({{"options", OptionsJson(board)},
+  return Print({{"version", kVersion},
+                {"options", OptionsJson(board)},
                 {"contentDate", DateJson(board.contentDate)},
                 {"today", DateJson(board.today)},
                 {"todayInBoard", board.todayOnBoard},
                 {"rows", board.rows.size()},
                 {"columns", board.Columns()},
                 {"headings", board.headings},
+                {"headingNames", DayNamesJson(board.headings)},
                 {"weekNumberSpans", SpansJson(board)},
                 {"cells", CellsJson(board, annotator, board.options.language)}},
                ascii);
 }
 
 std::string DayJson(const DayReport& report, ELanguage region, bool ascii) {
-  Json json = {
-      {"region", WordFor(kLanguageWords, region)}, {"language", region},
-      {"date", CivilDateJson(report.date)},        {"today", DateJson(report.today)},
-      {"daysFromToday", report.DaysFromToday()},   {"weekNumber", report.weekNumber},
-      {"dayOfYear", DayOfYear(report.date)},       {"daysInYear", DaysInYear(report.date.year)}};
+  Json json = {{"version", kVersion},
+               {"region", WordFor(kLanguageWords, region)},
+               {"language", region},
+               {"date", CivilDateJson(report.date)},
+               {"today", DateJson(report.today)},
+               {"daysFromToday", report.DaysFromToday()},
+               {"weekNumber", report.weekNumber},
+               {"dayOfYear", DayOfYear(report.date)},
+               {"daysInYear", DaysInYear(report.date.year)}};
   AddAnnotation(json, report.annotation, region);
   return Print(json, ascii);
 }
@@ -147,7 +181,8 @@ std::string YearJson(int year, CivilDate today, const std::vector<NamedDay>& day
     AddAnnotation(json, day.annotation, region);
     list.push_back(std::move(json));
   }
-  return Print({{"region", WordFor(kLanguageWords, region)},
+  return Print({{"version", kVersion},
+                {"region", WordFor(kLanguageWords, region)},
                 {"language", region},
                 {"year", year},
                 {"days", std::move(list)}},

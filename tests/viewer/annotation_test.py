@@ -165,9 +165,11 @@ Sunday, 31 March 2024
     def test_json(self):
         report = read_json("--language", "chs", "--day", "2024-02-04")
         self.assertEqual(report, {
-            "region": "chs", "language": 1,
-            "date": {"year": 2024, "month": 2, "day": 4, "dayOfWeek": 0},
-            "today": {"year": 2024, "month": 3, "day": 12, "dayOfWeek": 2},
+            "version": 1, "region": "chs", "language": 1,
+            "date": {"date": "2024-02-04", "year": 2024, "month": 2, "day": 4, "dayOfWeek": 0,
+                     "dayOfWeekName": "sun"},
+            "today": {"date": "2024-03-12", "year": 2024, "month": 3, "day": 12, "dayOfWeek": 2,
+                      "dayOfWeekName": "tue"},
             "daysFromToday": -37, "weekNumber": 5, "dayOfYear": 35, "daysInYear": 366,
             "lunar": {"year": 2023, "month": 12, "day": 25, "leap": False},
             "solarTerm": {"code": 2, "name": "Start of Spring", "localName": "立春"},
@@ -206,7 +208,7 @@ class OneYear(unittest.TestCase):
         self.assertEqual(names(by_date["2025-10-06"], "localName"), ["中秋节"])
         for day in year["days"]:
             self.assertTrue(day["solarTerm"] or day["festivals"])
-            self.assertEqual(set(day), {"year", "month", "day", "dayOfWeek", "daysFromToday", "lunar",
+            self.assertEqual(set(day), {"date", "dayOfWeekName", "year", "month", "day", "dayOfWeek", "daysFromToday", "lunar",
                                         "solarTerm", "festivals"})
         self.assertEqual(by_date["2025-01-29"]["daysFromToday"], 323)
 

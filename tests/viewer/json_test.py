@@ -1,14 +1,24 @@
 # SPDX-License-Identifier: MIT
 """The board as JSON: keys that scripts rely on, and the engine's values behind them."""
 
+import json
+import pathlib
 import unittest
 
+try:
+    import jsonschema
+except ImportError:
+    jsonschema = None
+
+import cases
 from harness import output, read_json
 
 CELL_KEYS = {"year", "month", "day", "dayOfWeek", "weekNumber", "row", "column", "type"}
+CELL_NAMES = {"date", "dayOfWeekName", "typeName"}
 OPTION_KEYS = {"mode", "dispMonth", "maxRow", "passedWeeks", "startDayOfWeek", "startWeekNumber",
                "weekRule", "weekNumberCalcType", "hideBreakDay", "showBreakDayOfWeek",
                "showMonthInterval", "breakDays", "region", "language", "configKey"}
+OPTION_NAMES = {"startDayOfWeekName", "breakDayNames"}
 
 
 def picked(record, keys):
@@ -18,10 +28,11 @@ def picked(record, keys):
 class BoardJson(unittest.TestCase):
     def test_keys_and_values(self):
         board = read_json("--language", "kor")
-        self.assertEqual(set(board), {"options", "contentDate", "today", "todayInBoard", "rows",
+        self.assertEqual(set(board), {"version", "headingNames", "options", "contentDate", "today", "todayInBoard", "rows",
                                       "columns", "headings", "weekNumberSpans", "cells"})
-        self.assertEqual(set(board["options"]), OPTION_KEYS)
-        today = {"year": 2024, "month": 3, "day": 12, "dayOfWeek": 2}
+        self.assertEqual(set(board["options"]), OPTION_KEYS | OPTION_NAMES)
+        today = {"date": "2024-03-12", "year": 2024, "month": 3, "day": 12, "dayOfWeek": 2,
+                 "dayOfWeekName": "tue"}
         self.assertEqual(board["today"], today)
         self.assertEqual(board["contentDate"], {**today, "dayOfWeek": 0})
         self.assertIs(board["todayInBoard"], True)
@@ -37,7 +48,7 @@ class BoardJson(unittest.TestCase):
         self.assertEqual([len(row) for row in cells], [7] * 5)
         for row in cells:
             for cell in row:
-                self.assertEqual(set(cell), CELL_KEYS | {"lunar", "solarTerm", "festivals"})
+                self.assertEqual(set(cell), CELL_KEYS | CELL_NAMES | {"lunar", "solarTerm", "festivals"})
         self.assertEqual(picked(cells[1][1], CELL_KEYS),
                          {"year": 2024, "month": 3, "day": 12, "dayOfWeek": 2, "weekNumber": 11,
                           "row": 1, "column": 1, "type": 4})
@@ -53,7 +64,9 @@ class BoardJson(unittest.TestCase):
             "--mode", "tail", "--rows", "6", "--passed-weeks", "2", "--first-day", "wed",
             "--week-rule", "start", "--start-week", "9", "--hide-break-days", "--break-days",
             "fri,sat", "--no-month-interval", "--language", "jpn")["options"]
-        self.assertEqual(options, {
+        self.assertEqual(picked(options, OPTION_NAMES),
+                         {"startDayOfWeekName": "wed", "breakDayNames": ["fri", "sat"]})
+        self.assertEqual(picked(options, OPTION_KEYS), {
             "mode": "tail", "dispMonth": 2, "maxRow": 6, "passedWeeks": 2, "startDayOfWeek": 3,
             "startWeekNumber": 9, "weekRule": "start", "weekNumberCalcType": 2,
             "hideBreakDay": True, "showBreakDayOfWeek": False, "showMonthInterval": False,
@@ -61,6 +74,16 @@ class BoardJson(unittest.TestCase):
             "configKey": "2-6-7-2-3-9-1-2-0-(0-0-0-0-1-1-0)-0"})
         self.assertEqual(read_json()["options"]["configKey"],
                          "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1")
+
+    def test_names_and_dates_beside_the_numbers(self):
+        board = read_json("--date", "2024-04-01", "--no-month-interval")
+        self.assertEqual(board["headingNames"], ["mon", "tue", "wed", "thu", "fri", "sat", "sun"])
+        self.assertEqual(picked(board["cells"][0][5], CELL_NAMES),
+                         {"date": "2024-03-30", "dayOfWeekName": "sat", "typeName": "breakDay"})
+        types = [cell["typeName"] for row in read_json("--mode", "tail")["cells"] for cell in row]
+        self.assertEqual(types[:5], ["blank"] * 4 + ["day"])
+        self.assertEqual(read_json("--rows", "6")["cells"][4][0]["typeName"], "monthTitle")
+        self.assertIsNone(read_json("--rows", "6")["cells"][4][0]["date"])
 
     def test_month_interval_flag_is_the_viewers_own(self):
         # The engine answers the question for this flag with the hide-break-day flag.
@@ -91,5 +114,46 @@ class BoardJson(unittest.TestCase):
         self.assertEqual(read_json("--language", "chs", LC_ALL="C"), read_json("--language", "chs"))
 
 
+def without_room(schema):
+    """The schema with every key that it does not name forbidden."""
+    if isinstance(schema, dict):
+        closed = {key: without_room(value) for key, value in schema.items()}
+        return {**closed, "additionalProperties": False} if "properties" in schema else closed
+    return [without_room(value) for value in schema] if isinstance(schema, list) else schema
+
+
+@unittest.skipIf(jsonschema is None, "python3-jsonschema is not installed")
+class Schema(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        path = pathlib.Path(__file__).parents[2] / "docs/almara-board.schema.json"
+        schema = json.loads(path.read_text(encoding="utf-8"))
+        jsonschema.Draft202012Validator.check_schema(schema)
+        cls.schema = without_room(schema)
+
+    def check(self, kind, *arguments, **settings):
+        schema = {**self.schema, "oneOf": [{"$ref": f"#/$defs/{kind}"}]}
+        jsonschema.Draft202012Validator(schema).validate(read_json(*arguments, **settings))
+
+    def test_boards(self):
+        for region in ("chs", "cht", "deu", "eng", "jpn", "kor", "rus", "tha", "usa", "vit"):
+            for mode in ("rolling", "tail", "month", "strip"):
+                self.check("board", "--language", region, "--mode", mode)
+        for arguments in (("--hide-break-days",), ("--no-month-interval",), ("--break-days", "none"),
+                          ("--mode", "strip", "--hide-break-days"), ("1", "1900"), ("12", "2099"),
+                          ("--week-rule", "start", "--start-week", "53")):
+            self.check("board", *arguments)
+        self.check("board", "2", "2024", today="2100-01-01 10:00:00")
+
+    def test_days_and_years(self):
+        for region in ("chs", "kor", "usa", "vit"):
+            self.check("day", "--language", region, "--day", "2024-02-10")
+            self.check("year", "--language", region, "--list", "2024")
+
+    def test_something_else_is_refused(self):
+        with self.assertRaises(jsonschema.ValidationError):
+            self.check("day")
+
+
 if __name__ == "__main__":
-    unittest.main()
+    cases.main()

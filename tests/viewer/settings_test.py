@@ -9,6 +9,7 @@ import subprocess
 import tempfile
 import unittest
 
+import cases
 from harness import output, read_json, run
 
 
@@ -147,4 +148,4 @@ class Completion(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    unittest.main()
+    cases.main()
