@@ -9,7 +9,7 @@ declare -A PACKAGES=(
   [viewer]="libcli11-dev nlohmann-json3-dev libncurses-dev"
   [tests]="libgtest-dev libfaketime python3 tmux tzdata"
   [full]="libicu-dev libswe-dev swe-standard-data libglib2.0-dev pkg-config clang libclang-rt-14-dev
-    valgrind libc6-dbg abigail-tools nodejs npm ca-certificates"
+    valgrind libc6-dbg abigail-tools nodejs npm ca-certificates locales python3-jsonschema"
   [emulation]="clang python3 g++-aarch64-linux-gnu qemu-user"
   [mutation]="git python3 util-linux"
   [coverage]="gcovr"
