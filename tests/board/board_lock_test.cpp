@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 //
 // The mutex that every build holds.
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <chrono>
+#include <cstdio>
 #include <mutex>
 #include <thread>
 
@@ -53,6 +58,40 @@ TEST(BoardLock, BuildGivesTheMutexBack) {
   EXPECT_TRUE(IsFree());
   board._BuildCalendar(1899, 12, 31);
   EXPECT_TRUE(IsFree());
+}
+
+// A build stands still in a full pipe that nobody reads.
+TEST(BoardLock, BoardIsWrittenUnderTheMutex) {
+  const CaptureStdout output;  // puts the standard output back
+  int ends[2];
+  ASSERT_EQ(pipe(ends), 0);
+  const int capacity = fcntl(ends[1], F_SETPIPE_SZ, 4096);
+  dup2(ends[1], STDOUT_FILENO);
+  close(ends[1]);
+  Board board;
+  board.SetMaxRows(200);
+  std::atomic<bool> built{false};
+  std::thread builder([&] {
+    board._BuildCalendar(2024, 3, 13);
+    std::fflush(stdout);
+    built = true;
+  });
+  int waiting = 0;
+  while (waiting < capacity) {
+    ioctl(ends[0], FIONREAD, &waiting);
+  }
+  const bool isHeld = !IsFree();  // judged below: a failure is written to the full pipe
+  char text[4096];
+  while (!built) {
+    pollfd end{ends[0], POLLIN, 0};
+    if (poll(&end, 1, 1) == 1) {
+      ASSERT_GE(read(ends[0], text, sizeof text), 0);
+    }
+  }
+  builder.join();
+  EXPECT_TRUE(isHeld);
+  EXPECT_TRUE(IsFree());
+  close(ends[0]);
 }
 
 TEST(BoardLock, ContentAloneTakesNoMutex) {

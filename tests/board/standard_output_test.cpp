@@ -72,6 +72,27 @@ TEST(StandardOutputDeathTest, LineBufferedPipeWithoutAReaderEndsNoProcess) {
               testing::ExitedWithCode(0), "");
 }
 
+// Whether stdio writes at once or keeps a text back turns on a single character.
+TEST(StandardOutputDeathTest, TextThatJustFitsTheBufferEndsNoProcess) {
+  std::signal(SIGPIPE, SIG_DFL);
+  EXPECT_EXIT(
+      {
+        BreakPipe();
+        static char buffer[512];
+        for (std::size_t size = 128; size <= sizeof buffer; ++size) {
+          std::setvbuf(stdout, buffer, _IOFBF, size);
+          for (std::size_t length = size - 3; length <= size + 3; ++length) {
+            for (const std::size_t first : {std::size_t{0}, std::size_t{60}}) {
+              WriteToStandardOutput(std::string(first, 'x'));
+              WriteToStandardOutput(std::string(length - first, 'x'));
+            }
+          }
+        }
+        almara::test::LeaveProcess(0);
+      },
+      testing::ExitedWithCode(0), "");
+}
+
 TEST(StandardOutputDeathTest, SignalThatTheHostBlocksStaysBlockedAndPending) {
   EXPECT_EXIT(WriteAndExit([] {
                 sigset_t set;

@@ -143,6 +143,17 @@ TEST_F(Logic, BuildReturnsToTodayAfterPagingAway) {
   EXPECT_TRUE(m_engine.IsTodayInBoard());
 }
 
+TEST_F(Logic, BuildReturnsToTodayFromADateThatDiffersInOneField) {
+  for (const CCalendarSolarDate& other :
+       {CCalendarSolarDate{2023, 3, 13, 0}, {2024, 2, 13, 0}, {2024, 3, 12, 0}}) {
+    m_engine.GotoSpecifiedDate(other.year, other.month, other.day);
+    m_engine.m_pageDirection = kBackward;
+    m_engine.Build();
+    EXPECT_EQ(Focus(), "2024-3-13") << Date(other);
+    EXPECT_EQ(Direction(), kPlain) << Date(other);
+  }
+}
+
 TEST_F(Logic, BuildBeforeAnyOtherBuildShowsToday) {
   m_engine.Build();
   EXPECT_EQ(Focus(), "2024-3-13");
@@ -310,20 +321,24 @@ TEST_F(Logic, PagingAtTheEndsOfTheYearsLeavesTheBoard) {
   m_engine.GotoSpecifiedDate(2099, 12, 20);
   m_engine.GotoNextPage();
   EXPECT_EQ(Focus(), "2099-12-20");
+}
 
-  m_engine.SetDispMonth(kRolling);
-  m_engine.GotoToday();
+TEST_F(Logic, PagingByDaysAtTheEndsOfTheYearsSetsTheDirectionAndWritesTheBoardAgain) {
+  const auto page = [this](void (CCalendarLogic::*turn)()) {
+    const std::string focus = Focus();
+    const std::string first = First();
+    m_engine.m_pageDirection = kPlain;
+    m_output.Take();
+    (m_engine.*turn)();
+    EXPECT_EQ(Focus(), focus);
+    EXPECT_EQ(First(), first);
+    EXPECT_NE(m_output.Take().find("weeknumber"), std::string::npos);
+    return Direction();
+  };
   m_engine.GotoSpecifiedDate(1900, 1, 1);
-  const std::string first = First();
-  m_engine.GotoPreviousPage();  // 1899
-  EXPECT_EQ(Focus(), "1900-1-1");
-  EXPECT_EQ(First(), first);
-  EXPECT_EQ(Direction(), kBackward);
-  m_engine.GotoToday();
+  EXPECT_EQ(page(&CCalendarLogic::GotoPreviousPage), kBackward);
   m_engine.GotoSpecifiedDate(2099, 12, 31);
-  m_engine.GotoNextPage();
-  EXPECT_EQ(Focus(), "2099-12-31");
-  EXPECT_EQ(Direction(), kForward);
+  EXPECT_EQ(page(&CCalendarLogic::GotoNextPage), kForward);
 }
 
 TEST_F(Logic, PagingBeforeTheFirstBuildLeavesTheBoardEmpty) {

@@ -119,7 +119,8 @@ class FailingBuild : public testing::TestWithParam<BuildCase> {
   static void ExpectEmpty(const Board& board) {
     EXPECT_EQ(TextOf(board), "0 by 0\n");
     EXPECT_EQ(board.GetContentItem(0, 0).GetType(), eCalendarItemEmpty);
-    EXPECT_EQ(board.GetContentDate().year, 0);
+    const auto [year, month, day, dayOfWeek] = board.GetContentDate();
+    EXPECT_TRUE(year == 0 && month == 0 && day == 0 && dayOfWeek == 0);
     EXPECT_FALSE(board.IsTodayInBoard());
   }
 
