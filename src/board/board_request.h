@@ -18,8 +18,8 @@ enum class PageDirection {
 // All that a board depends on, but for the zone of the system, in which days are counted.
 struct BoardRequest {
   const CCalendarConfig& options;
-  CCalendarSolarDate focus;  // as it was asked for, not normalised
-  CCalendarSolarDate today;
+  CCalendarSolarDate focus{};  // as it was asked for, not normalised
+  CCalendarSolarDate today{};
   PageDirection direction = PageDirection::kNone;
 };
 

@@ -12,13 +12,10 @@ namespace almara {
 
 namespace {
 
-// A page may lose rows at its front, so that it lists every counted day; all other boards list only
-// the days that their rows show.
-std::size_t CountListedDays(const BoardRequest& request, int rows) {
-  const bool isWholeMonth = request.options.GetDispMonth() == eDispMonthWholeMonth;
-  const bool losesFront = request.direction == PageDirection::kBackward ||
-                          (request.direction == PageDirection::kForward && !isWholeMonth);
-  if (rows > 0 && losesFront) {
+// A page backward may lose rows at its front, so that it lists every counted day; all other boards
+// list only the days that their rows show.
+std::size_t CountListedDays(PageDirection direction, int rows) {
+  if (rows > 0 && direction == PageDirection::kBackward) {
     return std::numeric_limits<std::size_t>::max();
   }
   return static_cast<std::size_t>(std::max(rows, 0)) * kDaysOfWeek;
@@ -29,7 +26,7 @@ std::size_t CountListedDays(const BoardRequest& request, int rows) {
 DateList ListDates(const BoardRequest& request, const FocusDay& focus, const DayCounts& counts) {
   DateList list;
   list.reserve(kUsualListSize);
-  const std::size_t listedDays = CountListedDays(request, counts.rows);
+  const std::size_t listedDays = CountListedDays(request.direction, counts.rows);
   const auto append = [&](int count, int firstOffset, bool keptBack) {
     for (int i = 0; i < count && list.size() < listedDays; ++i) {
       CCalendarSolarDate date{};

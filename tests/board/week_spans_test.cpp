@@ -48,7 +48,7 @@ static_assert(offsetof(tagCalendarWeekSpan, weekNumber) == 0 &&
               offsetof(tagCalendarWeekSpan, cellsWithoutWeek) == 16 &&
               offsetof(tagCalendarWeekSpan, rows) == 20);
 
-class WeekNumberSpans : public testing::Test {
+class WeekSpans : public testing::Test {
  protected:
   // The spans of rows of which the given columns are visible, all seven if none is named.
   Spans Of(const std::vector<Week>& weeks,
@@ -73,17 +73,17 @@ class WeekNumberSpans : public testing::Test {
   CCalendarConfig m_options;
 };
 
-TEST_F(WeekNumberSpans, NoVisibleRowNoSpan) {
+TEST_F(WeekSpans, NoVisibleRowNoSpan) {
   Of({AllOf(9)});
   EXPECT_EQ(Of({}), Spans{});
 }
 
-TEST_F(WeekNumberSpans, RowsOfOneWeekAreASpanEach) {
+TEST_F(WeekSpans, RowsOfOneWeekAreASpanEach) {
   EXPECT_EQ(Of({AllOf(9), AllOf(10), AllOf(11)}),
             (Spans{{9, 7, 0, 0, 0, 1}, {10, 7, 0, 0, 0, 1}, {11, 7, 0, 0, 0, 1}}));
 }
 
-TEST_F(WeekNumberSpans, FirstRowThatEndsWithAWeekStandsAlone) {
+TEST_F(WeekSpans, FirstRowThatEndsWithAWeekStandsAlone) {
   const std::vector<Week> weeks = {{U, U, U, U, 9, 9, 9}, AllOf(10)};
   const Spans expected = {{9, 3, 0, 0, 4, 1}, {10, 7, 0, 0, 0, 1}};
   EXPECT_EQ(Of(weeks), expected);
@@ -93,7 +93,7 @@ TEST_F(WeekNumberSpans, FirstRowThatEndsWithAWeekStandsAlone) {
   EXPECT_EQ(Of(weeks), expected);
 }
 
-TEST_F(WeekNumberSpans, LaterRowThatEndsWithAWeekStandsAloneFromMondayOnly) {
+TEST_F(WeekSpans, LaterRowThatEndsWithAWeekStandsAloneFromMondayOnly) {
   const std::vector<Week> weeks = {AllOf(8), {U, U, U, U, 9, 9, 9}, AllOf(10)};
   EXPECT_EQ(Of(weeks), (Spans{{8, 7, 0, 0, 0, 1}, {9, 3, 0, 0, 4, 1}, {10, 7, 0, 0, 0, 1}}));
   // Otherwise it goes on in the next row, where week 10 becomes the second one.
@@ -102,7 +102,7 @@ TEST_F(WeekNumberSpans, LaterRowThatEndsWithAWeekStandsAloneFromMondayOnly) {
   EXPECT_EQ(Of(weeks), (Spans{{8, 7, 0, 0, 0, 1}, {9, 3, 10, 7, 4, 2}}));
 }
 
-TEST_F(WeekNumberSpans, WeekCutByABandIsPutTogether) {
+TEST_F(WeekSpans, WeekCutByABandIsPutTogether) {
   const std::vector<Week> weeks = {
       AllOf(8), {9, 9, 9, 9, U, U, U}, {U, U, U, U, 9, 9, 9}, AllOf(10)};
   const Spans expected = {{8, 7, 0, 0, 0, 1}, {9, 7, 0, 0, 7, 2}, {10, 7, 0, 0, 0, 1}};
@@ -111,66 +111,66 @@ TEST_F(WeekNumberSpans, WeekCutByABandIsPutTogether) {
   EXPECT_EQ(Of(weeks), expected);
 }
 
-TEST_F(WeekNumberSpans, BandRowIsPutToTheRowBelow) {
+TEST_F(WeekSpans, BandRowIsPutToTheRowBelow) {
   EXPECT_EQ(Of({AllOf(8), AllOf(U), AllOf(9)}), (Spans{{8, 7, 0, 0, 0, 1}, {9, 7, 0, 0, 7, 2}}));
 }
 
-TEST_F(WeekNumberSpans, BandRowAtTheTopIsPutToTheRowBelow) {
+TEST_F(WeekSpans, BandRowAtTheTopIsPutToTheRowBelow) {
   EXPECT_EQ(Of({AllOf(U), AllOf(9)}), (Spans{{9, 7, 0, 0, 7, 2}}));
 }
 
-TEST_F(WeekNumberSpans, BandRowAtTheEndIsPutToTheSpanAbove) {
+TEST_F(WeekSpans, BandRowAtTheEndIsPutToTheSpanAbove) {
   EXPECT_EQ(Of({AllOf(8), AllOf(9), AllOf(U)}), (Spans{{8, 7, 0, 0, 0, 1}, {9, 7, 0, 0, 0, 2}}));
 }
 
-TEST_F(WeekNumberSpans, BandRowAtTheEndMakesASpanOfTwoRowsOneOfThree) {
+TEST_F(WeekSpans, BandRowAtTheEndMakesASpanOfTwoRowsOneOfThree) {
   EXPECT_EQ(Of({{9, 9, 9, 9, U, U, U}, {U, U, U, U, 9, 9, 9}, AllOf(U)}),
             (Spans{{9, 7, 0, 0, 7, 3}}));
 }
 
-TEST_F(WeekNumberSpans, OnlyRowWithoutWeeksIsASpanOfItsOwn) {
+TEST_F(WeekSpans, OnlyRowWithoutWeeksIsASpanOfItsOwn) {
   EXPECT_EQ(Of({AllOf(U)}), (Spans{{0, 0, 0, 0, 7, 1}}));
 }
 
-TEST_F(WeekNumberSpans, TwoRowsWithoutWeeksAreOneSpan) {
+TEST_F(WeekSpans, TwoRowsWithoutWeeksAreOneSpan) {
   EXPECT_EQ(Of({AllOf(U), AllOf(U)}), (Spans{{0, 0, 0, 0, 14, 2}}));
   EXPECT_EQ(Of({AllOf(U), AllOf(U), AllOf(9)}), (Spans{{0, 0, 0, 0, 14, 2}, {9, 7, 0, 0, 0, 1}}));
 }
 
-TEST_F(WeekNumberSpans, LastRowIsAlwaysClosed) {
+TEST_F(WeekSpans, LastRowIsAlwaysClosed) {
   EXPECT_EQ(Of({AllOf(8), {9, 9, 9, U, U, U, U}}), (Spans{{8, 7, 0, 0, 0, 1}, {9, 3, 0, 0, 4, 1}}));
   EXPECT_EQ(Of({{9, 9, 9, U, U, U, U}, {U, U, U, U, U, U, U}}), (Spans{{9, 3, 0, 0, 11, 2}}));
   SundayFirst();
   EXPECT_EQ(Of({AllOf(8), {U, 9, 9, 9, 9, 9, 9}}), (Spans{{8, 7, 0, 0, 0, 1}, {9, 6, 0, 0, 1, 1}}));
 }
 
-TEST_F(WeekNumberSpans, FirstRowThatEndsWithoutAWeekGoesOn) {
+TEST_F(WeekSpans, FirstRowThatEndsWithoutAWeekGoesOn) {
   EXPECT_EQ(Of({{9, 9, 9, U, U, U, U}, {U, U, U, 9, 9, 9, 9}, AllOf(10)}),
             (Spans{{9, 7, 0, 0, 7, 2}, {10, 7, 0, 0, 0, 1}}));
 }
 
-TEST_F(WeekNumberSpans, SpanHoldsTwoRowsAtMost) {
+TEST_F(WeekSpans, SpanHoldsTwoRowsAtMost) {
   EXPECT_EQ(Of({{9, 9, U, U, U, U, U}, AllOf(U), {U, U, 9, 9, 9, 9, 9}}),
             (Spans{{9, 2, 0, 0, 12, 2}, {9, 5, 0, 0, 2, 1}}));
 }
 
-TEST_F(WeekNumberSpans, RowOfTwoWeeksHasBoth) {
+TEST_F(WeekSpans, RowOfTwoWeeksHasBoth) {
   SaturdayFirst();
   EXPECT_EQ(Of({{9, 9, 10, 10, 10, 10, 10}}), (Spans{{9, 2, 10, 5, 0, 1}}));
   EXPECT_EQ(Of({{9, 9, 10, 10, 10, 10, 10}, {10, 10, 11, 11, 11, 11, 11}}),
             (Spans{{9, 2, 10, 5, 0, 1}, {10, 2, 11, 5, 0, 1}}));
 }
 
-TEST_F(WeekNumberSpans, ThirdWeekOfARowCountsNowhere) {
+TEST_F(WeekSpans, ThirdWeekOfARowCountsNowhere) {
   EXPECT_EQ(Of({{8, 9, 9, 10, 10, 10, 9}}), (Spans{{8, 1, 9, 3, 0, 1}}));
 }
 
-TEST_F(WeekNumberSpans, LeadingSundayGivesWayToTheWeekOfTheRow) {
+TEST_F(WeekSpans, LeadingSundayGivesWayToTheWeekOfTheRow) {
   SundayFirst();
   EXPECT_EQ(Of({{9, 10, 10, 10, 10, 10, 10}}), (Spans{{10, 1, 0, 6, 0, 1}}));
 }
 
-TEST_F(WeekNumberSpans, LeadingSundayStaysUnderAnyOtherRule) {
+TEST_F(WeekSpans, LeadingSundayStaysUnderAnyOtherRule) {
   SundayFirst();
   for (const int type : {0, 2, 3, -1}) {
     m_options.SetWeekNumberCalcType(type);
@@ -178,30 +178,30 @@ TEST_F(WeekNumberSpans, LeadingSundayStaysUnderAnyOtherRule) {
   }
 }
 
-TEST_F(WeekNumberSpans, LeadingSundayStaysUnderAnyOtherStartDay) {
+TEST_F(WeekSpans, LeadingSundayStaysUnderAnyOtherStartDay) {
   for (const int start : {1, 6, 7, -7}) {  // 7 is no Sunday here
     m_options.SetStartDayOfWeek(start);
     EXPECT_EQ(Of({{9, 10, 10, 10, 10, 10, 10}}), (Spans{{9, 1, 10, 6, 0, 1}})) << start;
   }
 }
 
-TEST_F(WeekNumberSpans, TwoLeadingDaysDoNotGiveWay) {
+TEST_F(WeekSpans, TwoLeadingDaysDoNotGiveWay) {
   SundayFirst();
   EXPECT_EQ(Of({{9, 9, 10, 10, 10, 10, 10}}), (Spans{{9, 2, 10, 5, 0, 1}}));
 }
 
 // A single day of a week and nothing of a second one stays.
-TEST_F(WeekNumberSpans, LeadingSundayAloneStays) {
+TEST_F(WeekSpans, LeadingSundayAloneStays) {
   SundayFirst();
   EXPECT_EQ(Of({{9, U, U, U, U, U, U}}), (Spans{{9, 1, 0, 0, 6, 1}}));
 }
 
-TEST_F(WeekNumberSpans, LeadingSundayGivesWayAcrossABandToo) {
+TEST_F(WeekSpans, LeadingSundayGivesWayAcrossABandToo) {
   SundayFirst();
   EXPECT_EQ(Of({{9, 10, 10, U, U, U, U}, {U, U, U, 10, 10, 10, 10}}), (Spans{{10, 1, 0, 6, 7, 2}}));
 }
 
-TEST_F(WeekNumberSpans, FirstWeekOfANewYearWinsInOneRow) {
+TEST_F(WeekSpans, FirstWeekOfANewYearWinsInOneRow) {
   SaturdayFirst();
   EXPECT_EQ(Of({{52, 52, 1, 1, 1, 1, 1}}), (Spans{{1, 2, 1, 5, 0, 1}}));
   SundayFirst();
@@ -210,7 +210,7 @@ TEST_F(WeekNumberSpans, FirstWeekOfANewYearWinsInOneRow) {
   EXPECT_EQ(Of({{53, 1, 1, 1, 1, 1, 1}}), (Spans{{1, 1, 1, 6, 0, 1}}));
 }
 
-TEST_F(WeekNumberSpans, NewYearBehindABandDividesTheSpan) {
+TEST_F(WeekSpans, NewYearBehindABandDividesTheSpan) {
   const std::vector<Week> weeks = {{53, 53, 53, U, U, U, U}, {U, U, U, 1, 1, 1, 1}};
   EXPECT_EQ(Of(weeks), (Spans{{53, 3, 0, 4, 7, 1}, {1, 3, 0, 4, 7, 1}}));
   SundayFirst();
@@ -218,29 +218,29 @@ TEST_F(WeekNumberSpans, NewYearBehindABandDividesTheSpan) {
 }
 
 // The first of the two is written as it was counted, without the Sunday's giving way.
-TEST_F(WeekNumberSpans, DividedSpanOfASundayIsNotAdjusted) {
+TEST_F(WeekSpans, DividedSpanOfASundayIsNotAdjusted) {
   SundayFirst();
   EXPECT_EQ(Of({{52, U, U, U, U, U, U}, {U, 1, 1, 1, 1, 1, 1}}),
             (Spans{{52, 1, 0, 6, 7, 1}, {1, 1, 0, 6, 7, 1}}));
 }
 
-TEST_F(WeekNumberSpans, TwoRowsOfTwoWeeksOfOneYearStayASpan) {
+TEST_F(WeekSpans, TwoRowsOfTwoWeeksOfOneYearStayASpan) {
   EXPECT_EQ(Of({{9, 9, 9, U, U, U, U}, {U, U, U, 10, 10, 10, 10}}), (Spans{{9, 3, 10, 4, 7, 2}}));
 }
 
-TEST_F(WeekNumberSpans, RowOfTwoWeeksThatEndsWithoutOneGoesOn) {
+TEST_F(WeekSpans, RowOfTwoWeeksThatEndsWithoutOneGoesOn) {
   SaturdayFirst();
   EXPECT_EQ(Of({{9, 9, 10, 10, U, U, U}, {U, U, U, U, 10, 10, 10}}), (Spans{{9, 2, 10, 5, 7, 2}}));
 }
 
-TEST_F(WeekNumberSpans, RowOfTwoWeeksThatEndsWithWeek0GoesOn) {
+TEST_F(WeekSpans, RowOfTwoWeeksThatEndsWithWeek0GoesOn) {
   SaturdayFirst();
   EXPECT_EQ(Of({{9, 9, 10, 10, 10, 10, 0}, AllOf(10)}), (Spans{{9, 2, 10, 11, 1, 2}}));
   EXPECT_EQ(Of({{9, 9, 10, 10, 10, 10, 1}, AllOf(10)}),
             (Spans{{9, 2, 10, 4, 0, 1}, {10, 7, 0, 0, 0, 1}}));
 }
 
-TEST_F(WeekNumberSpans, Week53AsTheSecondClosesTheRow) {
+TEST_F(WeekSpans, Week53AsTheSecondClosesTheRow) {
   const std::vector<Week> weeks = {{52, 52, 53, 53, U, U, U}, {U, U, U, U, 1, 1, 1}};
   const Spans expected = {{52, 2, 53, 2, 3, 1}, {1, 3, 0, 0, 4, 1}};
   EXPECT_EQ(Of(weeks), expected);  // from Monday
@@ -251,30 +251,30 @@ TEST_F(WeekNumberSpans, Week53AsTheSecondClosesTheRow) {
             (Spans{{51, 2, 52, 5, 7, 2}}));
 }
 
-TEST_F(WeekNumberSpans, Week53AsTheFirstDoesNotCloseTheRow) {
+TEST_F(WeekSpans, Week53AsTheFirstDoesNotCloseTheRow) {
   EXPECT_EQ(Of({{53, 53, U, U, U, U, U}, {U, U, 53, 53, 53, 53, 53}}),
             (Spans{{53, 7, 0, 0, 7, 2}}));
 }
 
-TEST_F(WeekNumberSpans, StartDayOutsideTheWeekIsNotMonday) {
+TEST_F(WeekSpans, StartDayOutsideTheWeekIsNotMonday) {
   m_options.SetStartDayOfWeek(8);
   m_options.SetWeekNumberCalcType(0);
   EXPECT_EQ(Of({AllOf(8), {U, U, U, U, 9, 9, 9}, AllOf(10)}),
             (Spans{{8, 7, 0, 0, 0, 1}, {9, 3, 10, 7, 4, 2}}));
 }
 
-TEST_F(WeekNumberSpans, NumbersBelow1CountAsNone) {
+TEST_F(WeekSpans, NumbersBelow1CountAsNone) {
   EXPECT_EQ(Of({{0, -5, 9, 9, 9, 9, 9}}), (Spans{{9, 5, 0, 0, 2, 1}}));
   EXPECT_EQ(Of({{1, 1, 1, 1, 1, 1, 1}}), (Spans{{1, 7, 0, 0, 0, 1}}));
 }
 
-TEST_F(WeekNumberSpans, OnlyVisibleCellsAreCounted) {
+TEST_F(WeekSpans, OnlyVisibleCellsAreCounted) {
   EXPECT_EQ(Of({{9, 9, 9, 9, 9, 10, 10}}, {0, 1, 2, 3, 4}), (Spans{{9, 5, 0, 0, 0, 1}}));
   EXPECT_EQ(Of({{8, 9, 9, 9, 9, 9, U}}, {1, 2, 3, 4, 5}), (Spans{{9, 5, 0, 0, 0, 1}}));
 }
 
 // With the columns 2 to 6 visible, the cell asked for the end of the row is that of column 4.
-TEST_F(WeekNumberSpans, EndOfTheRowIsTheBoardColumnOfTheVisibleCount) {
+TEST_F(WeekSpans, EndOfTheRowIsTheBoardColumnOfTheVisibleCount) {
   const std::vector<int> columns = {2, 3, 4, 5, 6};
   // Column 4 has no week although the last visible cell has one: the row goes on.
   EXPECT_EQ(Of({AllOf(8), {U, U, U, U, U, 9, 9}, AllOf(10)}, columns),

@@ -61,6 +61,4 @@ class Board : public CCalendarLogic {
 
 }  // namespace almara::test
 
-namespace almara_test = almara::test;
-
 #endif  // ALMARA_TESTS_SUPPORT_BOARD_H_

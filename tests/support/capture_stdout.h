@@ -24,6 +24,4 @@ class CaptureStdout {
 
 }  // namespace almara::test
 
-namespace almara_test = almara::test;
-
 #endif  // ALMARA_TESTS_SUPPORT_CAPTURE_STDOUT_H_

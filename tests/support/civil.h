@@ -78,6 +78,4 @@ static_assert(DayNumber({1900, 1, 1}) == 0 && DayNumber({2000, 3, 1}) == 36584 &
 
 }  // namespace almara::test
 
-namespace almara_test = almara::test;
-
 #endif  // ALMARA_TESTS_SUPPORT_CIVIL_H_

@@ -16,6 +16,4 @@ void SetToday(int year, int month, int day);
 
 }  // namespace almara::test
 
-namespace almara_test = almara::test;
-
 #endif  // ALMARA_TESTS_SUPPORT_CLOCK_H_

@@ -26,6 +26,4 @@ namespace almara::test {
 
 }  // namespace almara::test
 
-namespace almara_test = almara::test;
-
 #endif  // ALMARA_TESTS_SUPPORT_LEAVE_PROCESS_H_

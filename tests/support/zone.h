@@ -42,6 +42,4 @@ inline const char* const kZones[] = {
 
 }  // namespace almara::test
 
-namespace almara_test = almara::test;
-
 #endif  // ALMARA_TESTS_SUPPORT_ZONE_H_
