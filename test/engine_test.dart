@@ -62,8 +62,10 @@ void main() {
       expect(titles.first.date, isNull);
       expect(titles.first.weekday, isNull);
       expect(titles.first.titleMonth, isNotNull);
-      expect(board.weeks.fold(0, (sum, week) => sum + week.rows),
-          board.rows.length);
+      expect(
+        board.weeks.fold(0, (sum, week) => sum + week.rows),
+        board.rows.length,
+      );
     });
 
     test('turns pages', () {

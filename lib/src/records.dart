@@ -15,12 +15,7 @@ CalendarDate? solarDateOf(CCalendarSolarDate date) =>
 
 LunarDate? lunarDateOf(CCalendarLunarDate date) => date.month == 0
     ? null
-    : LunarDate(
-        date.year,
-        date.month,
-        date.day,
-        isLeapMonth: date.leap == 1,
-      );
+    : LunarDate(date.year, date.month, date.day, isLeapMonth: date.leap == 1);
 
 CCalendarSolarDate solarRecordOf(AlmaraBindings library, CalendarDate date) =>
     library.CreateSolarDate(

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // node check_dart.js <root>: reads the Dart files of the package without a Dart SDK. Prints a line
-// for each place where the syntax is wrong, an import leads nowhere, or a member of the package is
-// used that it does not have, or with arguments that it does not take.
+// for each place where the syntax is wrong, an import leads nowhere, a class declares a member twice,
+// or a member of the package is used that it does not have, or with arguments that it does not take.
 
 import fs from 'node:fs';
 import path from 'node:path';
@@ -116,7 +116,7 @@ function memberOf(signature) {
 // Class, enumeration or extension: member: its parameters, or null for what is not called.
 function declaredMembers(trees) {
   const classes = {};
-  for (const tree of trees) {
+  for (const [file, tree] of trees) {
     for (const node of nodesOf(tree.rootNode)) {
       if (!/^(class|enum|extension)_(definition|declaration)$/.test(node.type)) {
         continue;
@@ -124,10 +124,15 @@ function declaredMembers(trees) {
       const names = [...named(node, 'identifier'), ...named(node, 'type_identifier')];
       const owner = /^extension/.test(node.type) ? names.at(-1).text : names[0].text;
       const members = (classes[owner] ??= {});
+      const declared = new Set();
       for (const part of nodesOf(node)) {
         if (/^(function|getter|setter|(constant_)?(redirecting_)?constructor)_signature$/
           .test(part.type)) {
           const [name, parameters] = memberOf(part);
+          if (declared.has(`${part.type} ${name}`)) {
+            report(file, part, `${owner} declares ${name} twice`);
+          }
+          declared.add(`${part.type} ${name}`);
           members[name] = parameters;
         } else if (part.type === 'enum_constant') {
           members[part.namedChildren.find((child) => child.type === 'identifier').text] = null;
@@ -228,7 +233,7 @@ const sources = ['lib', 'test', 'example'].flatMap(dartFiles).map((file) =>
   [file, fs.readFileSync(path.join(root, file), 'utf8')]);
 sources.push(...['README.md', 'docs/flutter.md'].flatMap(snippets));
 const trees = new Map(sources.map(([file, text]) => [file, parser.parse(text)]));
-const classes = declaredMembers([...trees.values()]);
+const classes = declaredMembers(trees);
 const bindings = trees.get('lib/src/almara_bindings.dart').rootNode;
 const constants = new Set([...bindings.text.matchAll(/^const int (\w+)/gm)].map((m) => m[1]));
 

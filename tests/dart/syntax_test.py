@@ -30,6 +30,8 @@ MISTAKES = (
      "AlmaraBindings.GetContentItem does not take 1 arguments"),
     ("lib/src/board.dart", "cell.weekNumber == -1", "cell.week == -1",
      "tagCalendarCell has no week"),
+    ("lib/src/dates.dart", "get exists =>", "get exists => true; bool get exists =>",
+     "CalendarDate declares exists twice"),
     ("lib/src/codes.dart", "(eCalendarWeekMonday)", "(eCalendarWeekMoonday)",
      "no constant eCalendarWeekMoonday"),
     ("example/lib/main.dart", "engine.nextPage()", "engine.nextPage(1)",
