@@ -60,6 +60,11 @@ constexpr Years kYearsOfKorea = ReckonYears(kKorea);
 constexpr Years kYearsOfVietnam = ReckonYears(kVietnam);
 constexpr Years kYearsOfJapan = ReckonYears(kJapan);
 
+static_assert(sizeof(kNewMoonDeltas) + sizeof(kTermBases) + sizeof(kTermDeltas) +
+                      4 * sizeof(Years) <=
+                  40000,
+              "the tables take at most 40 kB of the library");
+
 // The calendar of a fixed offset is this number plus the minutes.
 constexpr std::int32_t kAtGreenwich = 10000;
 constexpr std::int32_t kMostMinutes = 18 * 60;
