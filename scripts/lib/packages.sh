@@ -14,6 +14,7 @@ declare -A PACKAGES=(
   [mutation]="git python3 util-linux"
   [coverage]="gcovr"
   [docs]="doxygen"
+  [pictures]="faketime python3"
   [flutter]="clang cmake ninja-build pkg-config libgtk-3-dev libclang-dev python3 binutils"
   [packages]="build-essential debhelper dpkg-dev fakeroot lintian debootstrap git python3"
   [bench]="libbenchmark-dev libicu-dev libswe-dev python3 binutils util-linux"
