@@ -11,7 +11,7 @@ struct Glyphs {
   const char* spanMiddle;
   const char* spanBottom;
   const char* spanSingle;  // a span of one line
-  const char* breakDay;    // behind a break day
+  const char* breakDay;    // after a break day
   const char* ellipsis;    // where a text was cut
 };
 

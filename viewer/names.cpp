@@ -10,7 +10,7 @@ namespace almara::viewer {
 namespace {
 
 // A row of names: the code, English, and the other languages in the order of TextLanguage. A name
-// of more than nine cells is followed by its brief form, behind a bar. A language without a name
+// of more than nine cells is followed by its brief form, after a bar. A language without a name
 // never meets the code, or has taken over the English word.
 struct Name {
   std::int32_t code;

@@ -18,7 +18,7 @@ class Navigator {
   const BoardOptions& Options() const { return m_options; }
   CivilDate Selected() const { return m_selected; }
 
-  // To the day before or behind among the shown ones; off the board it pages.
+  // To the day before or after among the shown ones; off the board it pages.
   void MoveDays(int direction);
 
   // To the same day of another week; off the board it pages.

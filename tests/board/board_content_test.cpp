@@ -130,7 +130,7 @@ TEST_F(BoardContent, PassedWeeksOpenTheBoard) {
     const char* last;
   } const cases[] = {
       {0, "2024-3-11", "2024-4-14"}, {1, "2024-3-4", "2024-4-7"}, {4, "2024-2-12", "2024-3-17"},
-      {5, "2024-2-5", "2024-3-10"},  // the week of the focus lies behind the last row
+      {5, "2024-2-5", "2024-3-10"},  // the week of the focus lies after the last row
       {6, "2024-1-29", "2024-3-3"},
   };
   for (const auto& c : cases) {
@@ -615,7 +615,7 @@ TEST_F(ShownWeek, StartWeekReads1AndEarlierWeeksStay) {
 TEST_F(ShownWeek, WeeksOfTheNextYearGoOnUnderType2) {
   // 31 December 2025 is week 53, counted from 1 January.
   EXPECT_EQ(Of(2025, 1, 1, 36, 2), 18);
-  EXPECT_EQ(Of(2024, 12, 31, 36, 2), 18);  // no added 1 behind the turn of the year: week 18 again
+  EXPECT_EQ(Of(2024, 12, 31, 36, 2), 18);  // no added 1 after the turn of the year: week 18 again
   EXPECT_EQ(Of(2024, 12, 29, 36, 2), 17);
   EXPECT_EQ(Of(2025, 2, 2, 36, 2), 22);  // week 5 lies more than 30 weeks before week 36
   EXPECT_EQ(Of(2025, 2, 3, 36, 2), 6);   // week 6 does not

@@ -22,18 +22,18 @@ struct WeekCase {
 };
 
 constexpr WeekCase kWeekCases[] = {
-    {2021, 1, 1, 1, 53},     // a Friday, behind a long year
+    {2021, 1, 1, 1, 53},     // a Friday, after a long year
     {2021, 1, 3, 1, 53},     //
     {2021, 1, 4, 2, 1},      //
     {2022, 1, 1, 1, 52},     // a Saturday
     {2022, 1, 2, 1, 52},     //
     {2022, 1, 3, 2, 1},      //
-    {2005, 1, 1, 1, 53},     // a Saturday, behind a leap year
+    {2005, 1, 1, 1, 53},     // a Saturday, after a leap year
     {2005, 1, 2, 1, 53},     //
     {2005, 1, 3, 2, 1},      //
     {2023, 1, 1, 1, 52},     // a Sunday
-    {2023, 1, 2, 2, 1},      // the Monday behind it
-    {2017, 1, 1, 1, 52},     // a Sunday, behind a leap year
+    {2023, 1, 2, 2, 1},      // the Monday after it
+    {2017, 1, 1, 1, 52},     // a Sunday, after a leap year
     {2024, 1, 1, 1, 1},      // a Monday
     {2024, 1, 7, 1, 1},      //
     {2024, 1, 8, 2, 2},      //

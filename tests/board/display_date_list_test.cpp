@@ -155,7 +155,7 @@ TEST_F(DisplayDateList, BandOfSevenStandsBeforeAFirstDayInsideTheRun) {
 TEST_F(DisplayDateList, EveryMonthThatBeginsInsideGetsItsBand) {
   const DateList display = Display(Days({2023, 12, 31}, 33), 0, 0);
   ASSERT_EQ(display.size(), 33U + 14U);
-  EXPECT_EQ(display[1].month, 1);  // January behind December
+  EXPECT_EQ(display[1].month, 1);  // January after December
   EXPECT_EQ(display[8].day, 1);
   EXPECT_EQ(display[39].month, 2);
   EXPECT_EQ(display[46].month, 2);
@@ -269,7 +269,7 @@ TEST_F(DisplayDateList, PagedForwardTheRowsBehindTheFocusThatWereNotAskedForGo) 
 TEST_F(DisplayDateList, BothEndsAreCutWhicheverTheDirection) {
   for (const PageDirection direction : {PageDirection::kBackward, PageDirection::kForward}) {
     Focus({2024, 3, 6}, direction);
-    // From 26 February to 7 April: a band before the focus and one behind it.
+    // From 26 February to 7 April: a band before the focus and one after it.
     const DateList display = Display(Days({2024, 2, 26}, 42), 9, 32);
     EXPECT_EQ(display.size(), 42U);
     EXPECT_EQ(Text(display),

@@ -136,7 +136,7 @@ TEST_F(VisiblePartOfBoard, StartDayOfWeekOutsideTheWeekHidesOtherColumnsThanItsB
       {-1, {0, 2, 3, 4, 5, 6}},    // below 0 there are no days: only 0, Sunday, is hidden
       {-3, {0, 1, 2, 4, 5, 6}},    //
       {-10, {0, 1, 2, 4, 5, 6}},   // -7 counts as 0 too
-      {kMax, {0, 1, 2, 4, 5, 6}},  // wraps behind column 0
+      {kMax, {0, 1, 2, 4, 5, 6}},  // wraps after column 0
       {kMin, {0, 1, 3, 4, 5, 6}},  //
   };
   for (const auto& c : cases) {

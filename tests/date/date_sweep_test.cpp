@@ -21,7 +21,7 @@ using almara::test::ScopedZone;
 
 namespace {
 
-// Days whose midnight of standard time these zones left out, and the one behind Apia's missing day.
+// Days whose midnight of standard time these zones left out, and the one after Apia's missing day.
 const std::map<std::string, std::vector<Civil>> kDaysWithoutMidnight = {
     {"America/St_Johns", {{1935, 3, 30}}},
     {"Australia/Lord_Howe", {{1981, 3, 1}}},

@@ -400,7 +400,7 @@ TEST_F(Logic, DatesAreComparedAsTheyAreGiven) {
   m_engine.SetMaxColumns(3);
   m_engine.GotoToday();
   ASSERT_EQ(Last(), "2024-2-29");
-  m_engine.GotoSpecifiedDate(2024, 2, 31);  // behind 29 February
+  m_engine.GotoSpecifiedDate(2024, 2, 31);  // after 29 February
   EXPECT_EQ(Direction(), kForward);
   EXPECT_EQ(First(), "2024-3-2");
 
@@ -642,7 +642,7 @@ TEST_F(Logic, CellsAreAskedByVisibleRowAndColumn) {
   m_engine.SetStartDayOfWeek(0);
   m_engine.SetShowBreakDayOfWeek(false);
   m_engine.GotoToday();
-  const CCalendarItem item = m_engine.GetContentItem(1, 2);  // Wednesday, behind the hidden Sunday
+  const CCalendarItem item = m_engine.GetContentItem(1, 2);  // Wednesday, after the hidden Sunday
   EXPECT_EQ(item.GetDay(), "(4)2024-03-13");
   EXPECT_EQ(item.GetRow(), 1);
   EXPECT_EQ(item.GetColumn(), 3);
@@ -695,7 +695,7 @@ TEST_F(Logic, HeadingsFollowTheStartDayAndTheVisibleColumns) {
   }
 }
 
-// The entries behind the visible columns are column 0.
+// The entries after the visible columns are column 0.
 TEST_F(Logic, HeadingOfAColumnThatIsNotVisibleIsTheStartDay) {
   m_engine.SetShowBreakDayOfWeek(false);
   m_engine.SetStartDayOfWeek(3);
