@@ -73,9 +73,7 @@ class AlmaraBindings {
 
   late final _AlmanacDaysOfYearPtr =
       _lookup<
-        ffi.NativeFunction<
-          ffi.Int32 Function(EAlmanacCalendar, ffi.Int32)
-        >
+        ffi.NativeFunction<ffi.Int32 Function(EAlmanacCalendar, ffi.Int32)>
       >('AlmanacDaysOfYear');
   late final _AlmanacDaysOfYear = _AlmanacDaysOfYearPtr
       .asFunction<int Function(int, int)>(isLeaf: true);
@@ -102,9 +100,7 @@ class AlmaraBindings {
 
   late final _AlmanacLeapMonthPtr =
       _lookup<
-        ffi.NativeFunction<
-          ffi.Int32 Function(EAlmanacCalendar, ffi.Int32)
-        >
+        ffi.NativeFunction<ffi.Int32 Function(EAlmanacCalendar, ffi.Int32)>
       >('AlmanacLeapMonth');
   late final _AlmanacLeapMonth = _AlmanacLeapMonthPtr
       .asFunction<int Function(int, int)>(isLeaf: true);
@@ -127,7 +123,9 @@ class AlmaraBindings {
         >
       >('AlmanacLunarDate');
   late final _AlmanacLunarDate = _AlmanacLunarDatePtr
-      .asFunction<CCalendarLunarDate Function(int, CCalendarSolarDate)>(isLeaf: true);
+      .asFunction<CCalendarLunarDate Function(int, CCalendarSolarDate)>(
+        isLeaf: true,
+      );
 
   /// The lunar festival of a Gregorian date, by the rules of CheckFestivalLunarWithLang() and the
   /// dates of AlmanacLunarDate().
@@ -163,9 +161,7 @@ class AlmaraBindings {
 
   late final _AlmanacMonthsOfYearPtr =
       _lookup<
-        ffi.NativeFunction<
-          ffi.Int32 Function(EAlmanacCalendar, ffi.Int32)
-        >
+        ffi.NativeFunction<ffi.Int32 Function(EAlmanacCalendar, ffi.Int32)>
       >('AlmanacMonthsOfYear');
   late final _AlmanacMonthsOfYear = _AlmanacMonthsOfYearPtr
       .asFunction<int Function(int, int)>(isLeaf: true);
@@ -249,7 +245,14 @@ class AlmaraBindings {
         >
       >('AlmanacNextAnniversary');
   late final _AlmanacNextAnniversary = _AlmanacNextAnniversaryPtr
-      .asFunction<CCalendarSolarDate Function(int, CCalendarLunarDate, CCalendarSolarDate, int)>(isLeaf: true);
+      .asFunction<
+        CCalendarSolarDate Function(
+          int,
+          CCalendarLunarDate,
+          CCalendarSolarDate,
+          int,
+        )
+      >(isLeaf: true);
 
   /// The Gregorian date of a lunar date: AlmanacLunarDate() turned around.
   ///
@@ -267,7 +270,9 @@ class AlmaraBindings {
         >
       >('AlmanacSolarDate');
   late final _AlmanacSolarDate = _AlmanacSolarDatePtr
-      .asFunction<CCalendarSolarDate Function(int, CCalendarLunarDate)>(isLeaf: true);
+      .asFunction<CCalendarSolarDate Function(int, CCalendarLunarDate)>(
+        isLeaf: true,
+      );
 
   /// The instant of a solar term.
   ///
@@ -420,9 +425,7 @@ class AlmaraBindings {
 
   late final _ConverterLunarWithDatePtr =
       _lookup<
-        ffi.NativeFunction<
-          CCalendarLunarDate Function(CCalendarSolarDate)
-        >
+        ffi.NativeFunction<CCalendarLunarDate Function(CCalendarSolarDate)>
       >('ConverterLunarWithDate');
   late final _ConverterLunarWithDate = _ConverterLunarWithDatePtr
       .asFunction<CCalendarLunarDate Function(CCalendarSolarDate)>();
@@ -445,7 +448,9 @@ class AlmaraBindings {
         >
       >('CreateSolarDate');
   late final _CreateSolarDate = _CreateSolarDatePtr
-      .asFunction<CCalendarSolarDate Function(int, int, int, int)>(isLeaf: true);
+      .asFunction<CCalendarSolarDate Function(int, int, int, int)>(
+        isLeaf: true,
+      );
 
   /// Forgets every kept answer, week numbers included, the year of Easter that
   /// CheckFestivalSolarWithLang() remembers, and the zone: what is asked from here on is answered as
@@ -534,9 +539,7 @@ class AlmaraBindings {
 
   late final _GetContentItemPtr =
       _lookup<
-        ffi.NativeFunction<
-          tagCalendarCell Function(ffi.Int32, ffi.Int32)
-        >
+        ffi.NativeFunction<tagCalendarCell Function(ffi.Int32, ffi.Int32)>
       >('GetContentItem');
   late final _GetContentItem = _GetContentItemPtr
       .asFunction<tagCalendarCell Function(int, int)>(isLeaf: true);
@@ -755,9 +758,7 @@ class AlmaraBindings {
 
   late final _GotoSpecifiedDatePtr =
       _lookup<
-        ffi.NativeFunction<
-          ffi.Void Function(ffi.Int32, ffi.Int32, ffi.Int32)
-        >
+        ffi.NativeFunction<ffi.Void Function(ffi.Int32, ffi.Int32, ffi.Int32)>
       >('GotoSpecifiedDate');
   late final _GotoSpecifiedDate = _GotoSpecifiedDatePtr
       .asFunction<void Function(int, int, int)>();

@@ -79,6 +79,11 @@ def listed(before, items, after, indent):
     return f"{indent}{before}\n{inner}{indent}{after}\n"
 
 
+def signature_lines(signature, indent):
+    result, _, parameters = signature.partition("(")
+    return listed(f"{result}(", parameters[:-1].split(", "), ")", indent)
+
+
 def pointer_lookup(name, signature):
     line = f"  late final _{name}Ptr ="
     native = f"_lookup<ffi.NativeFunction<{signature}>>("
@@ -88,10 +93,23 @@ def pointer_lookup(name, signature):
         return f"{line}\n      {native}'{name}');\n"
     if len(f"      {native}") <= WIDTH:
         return f"{line}\n      {native}\n        '{name}',\n      );\n"
-    return (f"{line}\n      _lookup<\n        ffi.NativeFunction<\n"
-            + listed(f"{signature.partition('(')[0]}(",
-                     signature.partition("(")[2][:-1].split(", "), ")", " " * 10)
-            + f"        >\n      >('{name}');\n")
+    inner = f"        ffi.NativeFunction<{signature}>\n"
+    if len(inner) > WIDTH + 1:
+        inner = f"        ffi.NativeFunction<\n{signature_lines(signature, ' ' * 10)}        >\n"
+    return f"{line}\n      _lookup<\n{inner}      >('{name}');\n"
+
+
+def callable_field(name, signature, leaf):
+    line, argument = f"  late final _{name} = _{name}Ptr", "isLeaf: true" if leaf else ""
+    call = f".asFunction<{signature}>("
+    if len(f"{line}{call}{argument});") <= WIDTH:
+        return f"{line}{call}{argument});\n"
+    if len(f"      {call}{argument});") <= WIDTH:
+        return f"{line}\n      {call}{argument});\n"
+    if len(f"      {call}") <= WIDTH:
+        return f"{line}\n      {call}\n        {argument},\n      );\n"
+    return (f"{line}\n      .asFunction<\n{signature_lines(signature, ' ' * 8)}"
+            f"      >({argument});\n")
 
 
 def function_text(function, types, leaf):
@@ -101,14 +119,10 @@ def function_text(function, types, leaf):
     native = (f"{types.native(function.result)} "
               f"Function({', '.join(types.native(each.type) for each in parameters)})")
     dart = f"{result} Function({', '.join(types.dart(each.type) for each in parameters)})"
-    call = f".asFunction<{dart}>({'isLeaf: true' if leaf else ''});\n"
-    callable_line = f"  late final _{name} = _{name}Ptr"
-    if len(callable_line + call) > WIDTH + 1:
-        callable_line += "\n      "
     return ("\n" + documented(function.comment, "  ")
             + listed(f"{result} {name}(", taken, ") {", "  ")
             + listed(f"return _{name}(", [each.name for each in parameters], ");", "    ")
-            + "  }\n\n" + pointer_lookup(name, native) + callable_line + call)
+            + "  }\n\n" + pointer_lookup(name, native) + callable_field(name, dart, leaf))
 
 
 def record_text(record, types):
