@@ -108,6 +108,24 @@ void main() {
       expect(engine.annotate(date).lunarDate, const LunarDate(2051, 9, 30));
     });
 
+    test('finds Easter Sunday in any order', () {
+      engine.start(Region.usa);
+      for (final date in const [
+        CalendarDate(2024, 3, 31),
+        CalendarDate(2025, 4, 20),
+      ]) {
+        expect(engine.annotate(date).solarFestival, SolarFestival.easter);
+      }
+      expect(
+        engine.annotate(const CalendarDate(2024, 3, 29)).solarFestival,
+        SolarFestival.goodFriday,
+      );
+      expect(
+        engine.annotate(const CalendarDate(2024, 3, 24)).solarFestival,
+        isNull,
+      );
+    });
+
     test('tells the version of the library', () {
       expect(engine.libraryVersion, matches(RegExp(r'^\d+\.\d+\.\d+$')));
     });

@@ -115,7 +115,8 @@ class AlmaraEngine {
   }
 
   /// The board of [date]. Outside [Arrangement.wholeMonth] a date that is not
-  /// on the board is gone to as if paged to: it comes first or last.
+  /// on the board is gone to as if paged to: it comes first or last, and
+  /// [Arrangement.rollingTail] has no rows until [goToToday].
   ///
   /// Throws [RangeError] for years outside 1900 to 2099, months outside 1 to 12
   /// and days outside 1 to 31. A day that its month does not have counts on
@@ -153,9 +154,7 @@ class AlmaraEngine {
   /// Meant for 1900 to 2099. A date outside these years, or one that does not
   /// exist, gets the fallbacks stated in `include/almara/almara.h`.
   ///
-  /// Answers are kept until [start]. [Region.usa] needs the dates of a year in
-  /// order: Easter Sunday is found unless it is the first date asked of its
-  /// year.
+  /// Answers are kept until [start].
   ///
   /// Throws [StateError] before [start], when the zone is not known, and
   /// [RangeError] for a field that does not fit in 32 bits.
@@ -168,13 +167,31 @@ class AlmaraEngine {
     return DayNotes(
       lunarDate: lunarDateOf(_c.ConverterLunarWithDate(solar)),
       solarTerm: SolarTerm.fromCode(_c.Check24SekkiWithDate(solar)),
-      solarFestival: SolarFestival.fromCode(
-        _c.CheckFestivalSolarWithLang(region.code, solar),
-      ),
+      solarFestival: _isEaster(region, date)
+          ? SolarFestival.easter
+          : SolarFestival.fromCode(
+              _c.CheckFestivalSolarWithLang(region.code, solar),
+            ),
       lunarFestival: LunarFestival.fromCode(
         _c.CheckFestivalLunarWithLang(region.code, solar),
       ),
     );
+  }
+
+  /// Whether [date] is Easter Sunday, which the engine itself finds only if the
+  /// last date that it worked out was of the same year. It always finds Good
+  /// Friday.
+  bool _isEaster(Region region, CalendarDate date) {
+    if (region != Region.usa ||
+        date.year < 1900 ||
+        date.year > 2099 ||
+        !date.exists ||
+        date.weekday != Weekday.sunday) {
+      return false;
+    }
+    final friday = solarRecordOf(_c, date.addDays(-2));
+    return _c.CheckFestivalSolarWithLang(region.code, friday) ==
+        SolarFestival.goodFriday.code;
   }
 
   // Options. Setting one changes no board: call [rebuild] or navigate.
@@ -225,7 +242,8 @@ class AlmaraEngine {
     );
   }
 
-  /// The rule for week numbers; [WeekNumberRule.iso8601] by default.
+  /// The rule for week numbers; [WeekNumberRule.iso8601] by default. The others
+  /// give dates in summer time a number as if they were a day earlier.
   ///
   /// Setting [WeekNumberRule.unknown] throws [ArgumentError].
   WeekNumberRule get weekNumberRule =>
@@ -243,7 +261,9 @@ class AlmaraEngine {
     _c.SetShowMonthInterval(value);
   }
 
-  /// Whether the columns of [breakDays] are shown; true by default.
+  /// Whether the columns of [breakDays], and rows left without content, are
+  /// shown; true by default. In [Arrangement.dayStrip] leave it true: columns
+  /// are hidden by their place, and a strip begins on any day of the week.
   bool get showsBreakDays => _c.GetShowBreakDayOfWeek();
   set showsBreakDays(bool value) {
     _c.SetShowBreakDayOfWeek(value);
