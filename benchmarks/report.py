@@ -115,6 +115,11 @@ def compare(results, build):
     yield slower("board build, costliest arrangement", "its time-service calls",
                  [results.ratio(f"BoardBuild/{mode}", f"BoardTimeServiceCalls/{mode}")
                   for mode in MODES], 2)
+    # Not the strip of one row, which is little more than the question for today's date.
+    yield faster("board of weeks or of a month in civil days, not printed", "itself in local time",
+                 [results.ratio(f"UnprintedBoardBuild/local_time/{mode}",
+                                f"UnprintedBoardBuild/civil/{mode}")
+                  for mode in (1, 2, 3)], 5)
     yield faster("page turn, board and all look-ups", f"{icu} alone",
                  [results.ratio(f"PageTurnsIcu/{mode}/24", f"PageTurns<CCalendarLogic>/{mode}/24")
                   for mode in (1, 3)], 5)

@@ -10,6 +10,10 @@ function(almara_target target)
   # A fused multiply-add rounds once where the series round twice, so a day could depend on the
   # processor. With contraction off every compiler gives the same doubles.
   target_compile_options(${target} PRIVATE -ffp-contract=off)
+  # 32 bits of time end in 2038, boards in 2099.
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    target_compile_definitions(${target} PRIVATE _TIME_BITS=64 _FILE_OFFSET_BITS=64)
+  endif()
   if(ALMARA_DEVELOPER_WARNINGS)
     target_compile_options(${target} PRIVATE
       -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)

@@ -140,6 +140,7 @@ void main() {
         ..startDayOfWeek = Weekday.sunday
         ..showsMonthIntervals = true
         ..showsBreakDays = false
+        ..countsCivilDays = true
         ..breakDays = {Weekday.friday};
       expect(engine.configKey, '3-6-7-2-0-3-0-0-1-(0-0-0-0-1-0-0)-0');
       expect(engine.maxRows, 6);
@@ -149,12 +150,14 @@ void main() {
       expect(engine.startDayOfWeek, Weekday.sunday);
       expect(engine.showsMonthIntervals, isTrue);
       expect(engine.showsBreakDays, isFalse);
+      expect(engine.countsCivilDays, isTrue);
       expect(engine.breakDays, {Weekday.friday});
       engine
         ..maxRows = 5
         ..passedWeeks = 1
         ..startWeekNumber = 1
         ..weekNumberRule = WeekNumberRule.iso8601
+        ..countsCivilDays = false
         ..showsMonthIntervals = false;
       expect(engine.showsMonthIntervals, isFalse);
     });

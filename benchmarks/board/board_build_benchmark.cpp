@@ -43,6 +43,19 @@ void BoardBuild(benchmark::State& state) {
 }
 BENCHMARK(BoardBuild)->DenseRange(1, 4);
 
+// The board alone, without its text on the standard output.
+void UnprintedBoardBuild(benchmark::State& state, almara::DayCounting counting) {
+  Board board(static_cast<int>(state.range(0)));
+  board.SetPrintBoard(false);
+  board.SetDayCounting(counting);
+  for (auto _ : state) {
+    board.Build();
+  }
+}
+BENCHMARK_CAPTURE(UnprintedBoardBuild, local_time, almara::DayCounting::kLocalTime)
+    ->DenseRange(1, 4);
+BENCHMARK_CAPTURE(UnprintedBoardBuild, civil, almara::DayCounting::kCivil)->DenseRange(1, 4);
+
 void BoardTimeServiceCalls(benchmark::State& state) {
   const SilentOutput silent;
   Board board(static_cast<int>(state.range(0)));

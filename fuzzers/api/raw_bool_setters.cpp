@@ -8,6 +8,7 @@ void SetHideBreakDay(std::uint8_t hide);
 void SetShowMonthInterval(std::uint8_t show);
 void SetShowBreakDayOfWeek(std::uint8_t show);
 void SetPrintBoard(std::uint8_t print);
+void SetCivilDays(std::uint8_t on);
 void SetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak);
 }
 
@@ -17,6 +18,7 @@ void RawSetHideBreakDay(std::uint8_t hide) { SetHideBreakDay(hide); }
 void RawSetShowMonthInterval(std::uint8_t show) { SetShowMonthInterval(show); }
 void RawSetShowBreakDayOfWeek(std::uint8_t show) { SetShowBreakDayOfWeek(show); }
 void RawSetPrintBoard(std::uint8_t print) { SetPrintBoard(print); }
+void RawSetCivilDays(std::uint8_t on) { SetCivilDays(on); }
 void RawSetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak) {
   SetBreakDayOfWeek(dayOfWeek, isBreak);
 }

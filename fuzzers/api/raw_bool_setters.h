@@ -12,6 +12,7 @@ void RawSetHideBreakDay(std::uint8_t hide);
 void RawSetShowMonthInterval(std::uint8_t show);
 void RawSetShowBreakDayOfWeek(std::uint8_t show);
 void RawSetPrintBoard(std::uint8_t print);
+void RawSetCivilDays(std::uint8_t on);
 void RawSetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak);
 
 }  // namespace almara::test

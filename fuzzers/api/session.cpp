@@ -21,6 +21,14 @@ void ExpectWhole(const char* broken) {
   }
 }
 
+// Winter time an hour back from standard time, as the system's data have it for Europe/Dublin.
+constexpr const char* kDublin = "IST-1GMT0,M10.5.0,M3.5.0/1";
+
+void UseZone(const char* zone) {
+  setenv("TZ", zone, 1);
+  tzset();
+}
+
 ShownBoard ReadBoard() {
   ShownBoard board = ReadExportedBoard();
   ExpectWhole(FirstBroken(board));
@@ -29,7 +37,10 @@ ShownBoard ReadBoard() {
 
 }  // namespace
 
-Session::Session() : m_board(ReadBoard()) { Check(); }
+Session::Session() : m_board(ReadBoard()) {
+  UseZone("UTC");
+  Check();
+}
 
 void Session::Run(Input& input) {
   for (int i = 0; i < kMaxCalls && !input.IsEmpty(); ++i) {
@@ -88,7 +99,7 @@ void Session::CallSetter(Input& input) {
 void Session::CallFlagSetter(Input& input) {
   const std::uint8_t flag = input.Byte();
   const bool isSet = (flag & 1U) != 0;
-  switch (input.Byte() % 5U) {
+  switch (input.Byte() % 6U) {
     case 4:
       RawSetPrintBoard(flag);
       m_options.printBoard = isSet;
@@ -104,6 +115,11 @@ void Session::CallFlagSetter(Input& input) {
     case 2:
       RawSetShowBreakDayOfWeek(flag);
       m_options.showBreakDay = isSet;
+      break;
+    case 3:
+      RawSetCivilDays(flag);
+      m_options.civilDays = isSet;
+      UseZone(isSet ? kDublin : "UTC");
       break;
     default: {
       const std::int32_t day = input.About(-1, 7);
@@ -234,6 +250,7 @@ void Session::CheckOptions() const {
   ALMARA_CHECK(GetShowBreakDayOfWeek() == m_options.showBreakDay);
   ALMARA_CHECK(GetPrintBoard() == m_options.printBoard);
   ALMARA_CHECK(GetWeekNumberCalcType() == m_options.calcType);
+  ALMARA_CHECK(GetCivilDays() == m_options.civilDays);
   for (std::int32_t day = 0; day < kDaysInRow; ++day) {
     ALMARA_CHECK(IsBreakDayOfWeek(day) == m_options.breakDay[static_cast<std::size_t>(day)]);
   }

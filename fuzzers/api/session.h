@@ -22,12 +22,15 @@ struct Options {
   bool monthInterval = true;
   bool showBreakDay = true;
   bool printBoard = true;
+  bool civilDays = false;
   EWeekNumberCalc calcType = eWeekNumberCalcIso8601;
   std::array<bool, kDaysInRow> breakDay{true, false, false, false, false, false, true};
 };
 
 // Bytes decoded into a sequence of exported calls on the one engine. After each call everything
-// that can be read is read and held against the options, the clock and itself.
+// that can be read is read and held against the options, the clock and itself. Local time is UTC
+// while days are counted in it, and Dublin's while they are civil: there every winter day counted
+// in local time would be another.
 class Session {
  public:
   // Begins on an engine that has the default options.

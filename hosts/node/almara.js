@@ -193,6 +193,8 @@ bool GetShowBreakDayOfWeek(void);
 void SetShowBreakDayOfWeek(bool show);
 EWeekNumberCalc GetWeekNumberCalcType(void);
 void SetWeekNumberCalcType(EWeekNumberCalc type);
+bool GetCivilDays(void);
+void SetCivilDays(bool on);
 void SetBreakDayOfWeek(int32_t dayOfWeek, bool isBreak);
 bool IsBreakDayOfWeek(int32_t dayOfWeek);
 char* GetConfigKey(void);

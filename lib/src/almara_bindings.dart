@@ -484,11 +484,21 @@ class AlmaraBindings {
   late final _GetCalendarWeekByColumns = _GetCalendarWeekByColumnsPtr
       .asFunction<int Function(int)>(isLeaf: true);
 
-  /// A text that holds every option, so that it changes whenever one does: two equal keys mean equal
-  /// options. "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1" by default; the numbers are the arrangement, rows,
-  /// columns of the strip, passed weeks, start day of week, start week number, hide-break-day flag,
-  /// rule for week numbers, month intervals, in parentheses the break days from Monday to Sunday, and
-  /// whether break days are shown.
+  /// Whether days are counted by the calendar alone; false at load. Since 1.1.
+  bool GetCivilDays() {
+    return _GetCivilDays();
+  }
+
+  late final _GetCivilDaysPtr =
+      _lookup<ffi.NativeFunction<ffi.Bool Function()>>('GetCivilDays');
+  late final _GetCivilDays = _GetCivilDaysPtr
+      .asFunction<bool Function()>(isLeaf: true);
+
+  /// A text that holds every option but SetCivilDays(), so that it changes whenever one does: two
+  /// equal keys mean equal options. "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1" by default; the numbers are
+  /// the arrangement, rows, columns of the strip, passed weeks, start day of week, start week number,
+  /// hide-break-day flag, rule for week numbers, month intervals, in parentheses the break days from
+  /// Monday to Sunday, and whether break days are shown.
   ///
   /// @return a new NUL-terminated text that the caller owns and releases with ReleaseText() or the C
   ///     library's free(), or NULL if there is no memory for it
@@ -865,6 +875,27 @@ class AlmaraBindings {
   late final _SetBreakDayOfWeek = _SetBreakDayOfWeekPtr
       .asFunction<void Function(int, bool)>(isLeaf: true);
 
+  /// Sets whether days are counted by the calendar alone. Switch it on before the first board, unless
+  /// a host depends on the boards that are built without it.
+  ///
+  /// Off, the days of boards, pages, offsets, week numbers and festivals on a weekday are counted as
+  /// 86400 seconds of the machine's local time. Wherever a zone set its standard time back, or calls
+  /// winter time daylight saving, a board then shows a day twice and each later one under the wrong
+  /// weekday: Moscow in October 2014, Almaty in February and March 2024, Dublin every winter. On, all
+  /// of them are what they are off in a machine that runs in UTC on the same date; today's date alone
+  /// comes from the machine's clock and zone. A board is also built in a fraction of the time.
+  ///
+  /// A change forgets the kept week numbers and festivals. The board stays until the next build.
+  /// Lunar dates and solar terms do not depend on it, and GetConfigKey() does not tell it. Since 1.1.
+  void SetCivilDays(bool on) {
+    return _SetCivilDays(on);
+  }
+
+  late final _SetCivilDaysPtr =
+      _lookup<ffi.NativeFunction<ffi.Void Function(ffi.Bool)>>('SetCivilDays');
+  late final _SetCivilDays = _SetCivilDaysPtr
+      .asFunction<void Function(bool)>(isLeaf: true);
+
   /// Sets the arrangement. Not checked: a value outside 1 to 4 gives boards without rows.
   void SetDispMonth(int mode) {
     return _SetDispMonth(mode);
@@ -983,9 +1014,9 @@ class AlmaraBindings {
 
   /// Sets the rule for week numbers. Not checked: any value but 1 and 2 counts as 0.
   ///
-  /// All rules but 1 count days by the seconds of local time since 1 January. From the day the clocks
-  /// go forward until they go back, dates come out one day short: in Berlin, 1 April 2024, a
-  /// Monday, is still in week 13. The first answer for a date is kept until
+  /// Without SetCivilDays() all rules but 1 count the seconds of local time since 1 January. From the
+  /// day the clocks go forward until they go back, dates come out one day short: in Berlin, 1 April
+  /// 2024, a Monday, is still in week 13. The first answer for a date is kept until
   /// ForgetAnnotations().
   void SetWeekNumberCalcType(int type) {
     return _SetWeekNumberCalcType(type);

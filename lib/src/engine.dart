@@ -252,6 +252,16 @@ class AlmaraEngine {
     _c.SetWeekNumberCalcType(_known(value, value.code));
   }
 
+  /// Whether days are counted by the calendar alone; false by default. Set it
+  /// before [start].
+  ///
+  /// If false, boards show wrong days where the machine's zone set its standard
+  /// time back or calls winter time daylight saving, as in Dublin.
+  bool get countsCivilDays => _c.GetCivilDays();
+  set countsCivilDays(bool value) {
+    _c.SetCivilDays(value);
+  }
+
   /// Whether a band of seven cells comes before the first day of a month, and
   /// the days that only fill the first row are kept back; true by default.
   bool get showsMonthIntervals =>

@@ -33,6 +33,10 @@ ALMARA_EXPORT void SetPrintBoard(std::uint8_t print) {
   almara::Tell(&CCalendarLogic::SetPrintBoard, LowestBit(print));
 }
 
+ALMARA_EXPORT void SetCivilDays(std::uint8_t on) {
+  almara::Tell(&CCalendarLogic::SetCivilDays, LowestBit(on));
+}
+
 ALMARA_EXPORT void SetBreakDayOfWeek(std::int32_t dayOfWeek, std::uint8_t isBreak) {
   almara::Tell(&CCalendarLogic::SetBreakDayOfWeek, dayOfWeek, LowestBit(isBreak));
 }

@@ -109,6 +109,8 @@ void SetWeekNumberCalcType(EWeekNumberCalc type) {
   Tell(&CCalendarLogic::SetWeekNumberCalcType, type);
 }
 
+bool GetCivilDays() { return Ask(&CCalendarLogic::IsCivilDays, false); }
+
 bool IsBreakDayOfWeek(std::int32_t dayOfWeek) {
   return Ask(&CCalendarLogic::IsBreakDayOfWeek, false, dayOfWeek);
 }

@@ -15,7 +15,8 @@ enum class PageDirection {
   kForward,   // the focus date opens the board
 };
 
-// All that a board depends on, but for the zone of the system, in which days are counted.
+// All that a board depends on, but for the zone of the system where the options count days in local
+// time.
 struct BoardRequest {
   const CCalendarConfig& options;
   CCalendarSolarDate focus{};  // as it was asked for, not normalised

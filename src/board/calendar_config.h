@@ -7,6 +7,7 @@
 #include <array>
 #include <string>
 
+#include "date/day_counting.h"
 #include "date/gregorian.h"
 
 // The options of the month board. A setting takes effect at the next build. Unless a setter says
@@ -59,9 +60,13 @@ class CCalendarConfig {
   EWeekNumberCalc GetWeekNumberCalcType() const { return m_weekNumberCalcType; }
   void SetWeekNumberCalcType(EWeekNumberCalc type) { m_weekNumberCalcType = type; }
 
-  // A text that holds every option; "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1" for the defaults. Hosts
-  // compare keys, so the order of its numbers is fixed: the rule for week numbers stands between
-  // the two flags, and the break days run from Monday to Sunday.
+  // How days are counted. No part of the key.
+  almara::DayCounting GetDayCounting() const { return m_dayCounting; }
+  void SetDayCounting(almara::DayCounting counting) { m_dayCounting = counting; }
+
+  // A text that holds every other option; "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1" for the defaults.
+  // Hosts compare keys, so the order of its numbers is fixed: the rule for week numbers stands
+  // between the two flags, and the break days run from Monday to Sunday.
   std::string GetConfigKey() const;
 
  private:
@@ -76,6 +81,7 @@ class CCalendarConfig {
   std::array<int, almara::kDaysOfWeek> m_breakDayOfWeek{1, 0, 0, 0, 0, 0, 1};  // by ECalendarWeek
   bool m_showBreakDayOfWeek = true;
   EWeekNumberCalc m_weekNumberCalcType = eWeekNumberCalcIso8601;
+  almara::DayCounting m_dayCounting = almara::DayCounting::kLocalTime;
 };
 
 #endif  // ALMARA_BOARD_CALENDAR_CONFIG_H_

@@ -4,6 +4,7 @@
 #include "date/gregorian.h"
 #include "date/int32.h"
 
+using almara::DayCounting;
 using almara::kDaysOfWeek;
 
 namespace {
@@ -35,11 +36,20 @@ int IsoWeek(int year, int month, int day) {
   return (dayOfYear + newYear + 6 - weekday) / kDaysOfWeek - (startsLate ? 1 : 0);
 }
 
+// Days from 1 January to an accepted date.
+int DaysOfCalendar(int year, int month, int day) { return almara::DayOfYear(year, month, day) - 1; }
+
 // The instant of local midnight, daylight saving as the zone has it.
 std::time_t LocalMidnight(int year, int month, int day) {
   std::tm record{};
   setDay(record, year, month, day);
   return std::mktime(&record);
+}
+
+// Whole days from 1 January to an accepted date by the seconds between the two midnights.
+int DaysOfLocalTime(int year, int month, int day) {
+  const std::time_t seconds = LocalMidnight(year, month, day) - LocalMidnight(year, 1, 1);
+  return static_cast<int>(seconds / kSecondsPerDay);
 }
 
 }  // namespace
@@ -54,9 +64,14 @@ void setDay(std::tm& t, int year, int month, int day) {
   t.tm_isdst = -1;
 }
 
-int CCalendarWeekNumber::GetWeekNumber(int year, int month, int day, EWeekNumberCalc calcType) {
+// What depends on the date alone is cheaper than a look at the memo.
+int CCalendarWeekNumber::GetWeekNumber(int year, int month, int day, EWeekNumberCalc calcType,
+                                       DayCounting counting) {
   if (calcType == eWeekNumberCalcIso8601) {
-    return _GetWeekNumber(year, month, day);  // cheaper than a look at the memo
+    return _GetWeekNumber(year, month, day);
+  }
+  if (counting == DayCounting::kCivil) {
+    return _GetWeekOfYear(year, month, day, counting);
   }
   return m_mapWeekNumberCache.GetOrCompute(calcType, {year, month, day, 0},
                                            [&] { return _GetWeekOfYear(year, month, day); });
@@ -66,11 +81,11 @@ int CCalendarWeekNumber::_GetWeekNumber(int year, int month, int day) const {
   return almara::IsBoardDate(year, month, day) ? IsoWeek(year, month, day) : kNoWeek;
 }
 
-int CCalendarWeekNumber::_GetWeekOfYear(int year, int month, int day) const {
+int CCalendarWeekNumber::_GetWeekOfYear(int year, int month, int day, DayCounting counting) const {
   if (!almara::IsBoardDate(year, month, day)) {
     return kNoWeek;
   }
-  const std::time_t seconds = LocalMidnight(year, month, day) - LocalMidnight(year, 1, 1);
-  const int days = static_cast<int>(seconds / kSecondsPerDay);
+  const int days = counting == DayCounting::kCivil ? DaysOfCalendar(year, month, day)
+                                                   : DaysOfLocalTime(year, month, day);
   return (days + DayOfNewYearFromMonday(year)) / kDaysOfWeek + 1;
 }

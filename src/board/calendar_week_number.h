@@ -7,25 +7,28 @@
 #include <ctime>
 
 #include "date/date_memo.h"
+#include "date/day_counting.h"
 
 // Week numbers of Gregorian dates. Weeks begin on Monday under every rule, whatever the first
 // column of the board. A date is accepted from year 1900 to 2099, month 1 to 12 and day 1 to 31;
 // days that a short month lacks count on (30 February is 1 or 2 March). Any other date gives -1.
 class CCalendarWeekNumber {
  public:
-  // The week number under calcType; a type other than 1 counts from 1 January. Its answers, -1
-  // included, are kept until ForgetAnswers(), also when the process's time zone changes; ISO weeks
-  // depend on nothing but the date.
-  int GetWeekNumber(int year, int month, int day, EWeekNumberCalc calcType);
+  // The week number under calcType; a type other than 1 counts from 1 January. Its answers from
+  // local time, -1 included, are kept until ForgetAnswers(), also when the process's time zone
+  // changes; ISO weeks and civil days depend on nothing but the date.
+  int GetWeekNumber(int year, int month, int day, EWeekNumberCalc calcType,
+                    almara::DayCounting counting = almara::DayCounting::kLocalTime);
 
   void ForgetAnswers() { m_mapWeekNumberCache.Clear(); }
 
   // ISO 8601 week, 1 to 53.
   int _GetWeekNumber(int year, int month, int day) const;
 
-  // Week counted from the one that holds 1 January, 1 to 54. Days are counted in local seconds, so
-  // that where clocks go forward in spring the days after the change come out one short.
-  int _GetWeekOfYear(int year, int month, int day) const;
+  // Week counted from the one that holds 1 January, 1 to 54. Where days are counted in local
+  // seconds and clocks go forward in spring, the days after the change come out one short.
+  int _GetWeekOfYear(int year, int month, int day,
+                     almara::DayCounting counting = almara::DayCounting::kLocalTime) const;
 
   // Helpers that the engine does not use: described parts of this class, which tests from outside
   // are written against (calendar_week_number_helpers.cpp).
@@ -59,7 +62,7 @@ class CCalendarWeekNumber {
   int _GetDayAndMonthFromWeekInYear(int* year, int week, int* month, int* day) const;
 
  private:
-  almara::DateMemo<int> m_mapWeekNumberCache;  // by calculation type and date
+  almara::DateMemo<int> m_mapWeekNumberCache;  // of local time, by calculation type and date
 };
 
 // Sets the date of t to local midnight of the given day, with daylight saving left for the system

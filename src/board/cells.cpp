@@ -54,13 +54,14 @@ int ShownWeekNumber(const BoardRequest& request, const CCalendarSolarDate& date,
                     CCalendarWeekNumber& weekNumbers) {
   const EWeekNumberCalc type = request.options.GetWeekNumberCalcType();
   const int start = request.options.GetStartWeekNumber();
-  const int week = weekNumbers.GetWeekNumber(date.year, date.month, date.day, type);
+  const DayCounting counting = request.options.GetDayCounting();
+  const int week = weekNumbers.GetWeekNumber(date.year, date.month, date.day, type, counting);
   if (week >= start) {
     return WrapSubtract(WrapAdd(week, 1), start);
   }
   if (WrapSubtract(date.year, request.today.year) == 1 && type == eWeekNumberCalcFromStartWeek &&
       WrapSubtract(start, kWeeksOfHalfYear) > week) {
-    const int lastWeek = weekNumbers.GetWeekNumber(date.year, 12, 31, type);
+    const int lastWeek = weekNumbers.GetWeekNumber(date.year, 12, 31, type, counting);
     return WrapSubtract(WrapAdd(lastWeek, week), start);
   }
   return week;

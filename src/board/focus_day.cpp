@@ -15,10 +15,11 @@ bool IsSameDay(const CCalendarSolarDate& a, const CCalendarSolarDate& b) {
 
 FocusDay FindFocusDay(const BoardRequest& request) {
   CCalendarSolarDate date = request.focus;
-  DayRun run(date.year, date.month, date.day);
+  const DayCounting counting = request.options.GetDayCounting();
+  DayRun run(date.year, date.month, date.day, counting);
   run.DateAt(0, date);
   if (!IsSameDay(date, request.focus)) {
-    run = DayRun(date.year, date.month, date.day);
+    run = DayRun(date.year, date.month, date.day, counting);
   }
   return {run, date, ColumnOfDayOfWeek(request.options.GetStartDayOfWeek(), date.dayOfWeek)};
 }

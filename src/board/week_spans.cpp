@@ -124,6 +124,7 @@ std::vector<tagCalendarWeekSpan> JoinWeeks(const CCalendarConfig& options,
                                            const std::vector<tagCalendarRow>& rows,
                                            const VisiblePart& visible) {
   std::vector<tagCalendarWeekSpan> spans;
+  spans.reserve(static_cast<std::size_t>(visible.rowCount));
   WeekSpanBuilder builder(spans, options.GetWeekNumberCalcType() == eWeekNumberCalcIso8601,
                           options.GetStartDayOfWeek(), visible.columnCount);
   for (int r = 0; r < visible.rowCount; ++r) {

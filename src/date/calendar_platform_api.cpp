@@ -2,8 +2,11 @@
 #include "date/calendar_platform_api.h"
 
 #include <ctime>
+#include <optional>
 
 #include "date/day_run.h"
+
+using almara::DayCounting;
 
 std::int32_t g_mac_timezone = kTimeZoneUnknown;
 
@@ -11,12 +14,16 @@ namespace {
 
 constexpr int kSecondsPerHour = 3600;
 
-// The local time of this moment, in storage that the process shares; null if the system cannot
-// tell.
-const std::tm* LocalNow() {
+// The local time of this moment, in the zone that TZ names at this moment; none if the system
+// cannot tell. Whatever other threads ask the system meanwhile does not reach it.
+std::optional<std::tm> LocalNow() {
   const std::time_t now = std::time(nullptr);
-  // NOLINTNEXTLINE(concurrency-mt-unsafe): one thread drives the engine.
-  return std::localtime(&now);
+  std::tm local{};
+  tzset();  // which localtime_r() need not do
+  if (localtime_r(&now, &local) == nullptr) {
+    return std::nullopt;
+  }
+  return local;
 }
 
 void Store(const CCalendarSolarDate& date, int& year, int& month, int& day, int& week) {
@@ -29,8 +36,8 @@ void Store(const CCalendarSolarDate& date, int& year, int& month, int& day, int&
 }  // namespace
 
 void CalendarPlatformApi::GetTodayDate(int& year, int& month, int& day, int& week) {
-  const std::tm* local = LocalNow();
-  if (local == nullptr) {
+  const std::optional<std::tm> local = LocalNow();
+  if (!local) {
     return;
   }
   Store(almara::DateOf(*local), year, month, day, week);
@@ -42,16 +49,14 @@ void CalendarPlatformApi::FixDateAndGetWeek(int& year, int& month, int& day, int
 
 CCalendarSolarDate CalendarPlatformApi::GetNewDateByOffsetDays(CCalendarSolarDate date,
                                                                int offsetDays) {
-  CCalendarSolarDate result{};
-  almara::DayRun(date.year, date.month, date.day).DateAt(offsetDays, result);
-  return result;
+  return almara::DateByOffset(date, offsetDays, DayCounting::kLocalTime);
 }
 
 bool CalendarPlatformApi::GetNewDateByOffsetDays(int year, int month, int day, int offsetDays,
                                                  int& outYear, int& outMonth, int& outDay,
                                                  int& outWeek) {
   CCalendarSolarDate date{};
-  if (almara::DayRun(year, month, day).DateAt(offsetDays, date)) {
+  if (almara::DayRun(year, month, day, DayCounting::kLocalTime).DateAt(offsetDays, date)) {
     Store(date, outYear, outMonth, outDay, outWeek);
   }
   return true;
@@ -68,9 +73,8 @@ CCalendarSolarDate Today() {
 }
 
 std::int32_t MachineOffsetHours() {
-  const std::tm* local = LocalNow();
-  return local != nullptr ? static_cast<std::int32_t>(local->tm_gmtoff / kSecondsPerHour)
-                          : kTimeZoneUnknown;
+  const std::optional<std::tm> local = LocalNow();
+  return local ? static_cast<std::int32_t>(local->tm_gmtoff / kSecondsPerHour) : kTimeZoneUnknown;
 }
 
 }  // namespace almara

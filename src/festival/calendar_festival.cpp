@@ -1,22 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "festival/calendar_festival.h"
 
-#include "date/calendar_platform_api.h"
+#include "date/day_run.h"
 #include "festival/lunar_festival_rules.h"
 
-EFestivalSolar CCalendarFestival::GetFestivalBySolar(ELanguage language,
-                                                     CCalendarSolarDate date) const {
-  const EFestivalSolar own = almara::RegionSolarFestival(language, date);
-  return own != eFestivalSolarNone ? own : almara::CommonSolarFestival(date);
+using almara::DayCounting;
+
+EFestivalSolar CCalendarFestival::GetFestivalBySolar(ELanguage language, CCalendarSolarDate date,
+                                                     DayCounting counting) const {
+  const EFestivalSolar own = almara::RegionSolarFestival(language, date, counting);
+  return own != eFestivalSolarNone ? own : almara::CommonSolarFestival(date, counting);
 }
 
-EFestivalLunar CCalendarFestival::GetFestivalByLunar(ELanguage language,
-                                                     CCalendarSolarDate date) const {
+EFestivalLunar CCalendarFestival::GetFestivalByLunar(ELanguage language, CCalendarSolarDate date,
+                                                     DayCounting counting) const {
   if (!almara::HasLunarFestivals(language)) {
     return eFestivalLunarNone;
   }
   return almara::LunarFestival(language, _GetLunarDate(date), [&] {
-    return _GetLunarDate(CalendarPlatformApi::GetNewDateByOffsetDays(date, 1));
+    return _GetLunarDate(almara::DateByOffset(date, 1, counting));
   });
 }
 

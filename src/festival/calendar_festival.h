@@ -6,6 +6,7 @@
 
 #include <cstddef>
 
+#include "date/day_counting.h"
 #include "festival/solar_festival_rules.h"
 
 // The festival of a Gregorian date in a region. Every int is accepted as a date's field and as a
@@ -25,12 +26,16 @@ class CCalendarFestival {
           return static_cast<Owner*>(context)->ConverterLunar(date);
         }) {}
 
+  // Days from one to another are counted as the caller says.
+
   // The region's own festival, or else the one that holds in every region.
-  EFestivalSolar GetFestivalBySolar(ELanguage language, CCalendarSolarDate date) const;
+  EFestivalSolar GetFestivalBySolar(ELanguage language, CCalendarSolarDate date,
+                                    almara::DayCounting counting = kLocalTime) const;
 
   // The festival of the lunar date. The owner is asked for the lunar date of the day, and for that
   // of the next day only where it decides.
-  EFestivalLunar GetFestivalByLunar(ELanguage language, CCalendarSolarDate date) const;
+  EFestivalLunar GetFestivalByLunar(ELanguage language, CCalendarSolarDate date,
+                                    almara::DayCounting counting = kLocalTime) const;
 
   // Interface that nothing in the library calls, kept for code written against this class: the
   // lunar date of a day (all zeroes without an owner), the festivals of every region, and those of
@@ -38,37 +43,37 @@ class CCalendarFestival {
   CCalendarLunarDate _GetLunarDate(CCalendarSolarDate date) const;
 
   EFestivalSolar _GetCommonFestivalBySolar(CCalendarSolarDate date) const {
-    return almara::CommonSolarFestival(date);
+    return almara::CommonSolarFestival(date, kLocalTime);
   }
   EFestivalSolar _GetFestivalBySolarChs(CCalendarSolarDate date) const {
-    return almara::RegionSolarFestival(eLanguageChs, date);
+    return almara::RegionSolarFestival(eLanguageChs, date, kLocalTime);
   }
   EFestivalSolar _GetFestivalBySolarKor(CCalendarSolarDate date) const {
-    return almara::RegionSolarFestival(eLanguageKor, date);
+    return almara::RegionSolarFestival(eLanguageKor, date, kLocalTime);
   }
   EFestivalSolar _GetFestivalBySolarUsa(CCalendarSolarDate date) const {
-    return almara::RegionSolarFestival(eLanguageUsa, date);
+    return almara::RegionSolarFestival(eLanguageUsa, date, kLocalTime);
   }
   EFestivalSolar _GetFestivalBySolarCht(CCalendarSolarDate date) const {
-    return almara::RegionSolarFestival(eLanguageCht, date);
+    return almara::RegionSolarFestival(eLanguageCht, date, kLocalTime);
   }
   EFestivalSolar _GetFestivalBySolarRus(CCalendarSolarDate date) const {
-    return almara::RegionSolarFestival(eLanguageRus, date);
+    return almara::RegionSolarFestival(eLanguageRus, date, kLocalTime);
   }
   EFestivalSolar _GetFestivalBySolarDeu(CCalendarSolarDate date) const {
-    return almara::RegionSolarFestival(eLanguageDeu, date);
+    return almara::RegionSolarFestival(eLanguageDeu, date, kLocalTime);
   }
   EFestivalSolar _GetFestivalBySolarJpn(CCalendarSolarDate date) const {
-    return almara::RegionSolarFestival(eLanguageJpn, date);
+    return almara::RegionSolarFestival(eLanguageJpn, date, kLocalTime);
   }
   EFestivalSolar _GetFestivalBySolarEng(CCalendarSolarDate date) const {
-    return almara::RegionSolarFestival(eLanguageEng, date);
+    return almara::RegionSolarFestival(eLanguageEng, date, kLocalTime);
   }
   EFestivalSolar _GetFestivalBySolarVit(CCalendarSolarDate date) const {
-    return almara::RegionSolarFestival(eLanguageVit, date);
+    return almara::RegionSolarFestival(eLanguageVit, date, kLocalTime);
   }
   EFestivalSolar _GetFestivalBySolarTha(CCalendarSolarDate date) const {
-    return almara::RegionSolarFestival(eLanguageTha, date);
+    return almara::RegionSolarFestival(eLanguageTha, date, kLocalTime);
   }
   EFestivalLunar _GetFestivalByLunarChs(CCalendarSolarDate date) const {
     return GetFestivalByLunar(eLanguageChs, date);
@@ -84,6 +89,8 @@ class CCalendarFestival {
   }
 
  private:
+  static constexpr almara::DayCounting kLocalTime = almara::DayCounting::kLocalTime;
+
   void* m_owner = nullptr;  // not owned
   CCalendarLunarDate (*m_lunarDateOf)(void* owner, CCalendarSolarDate date) = nullptr;
 };

@@ -8,6 +8,8 @@
 #include "date/day_run.h"
 #include "date/gregorian.h"
 
+using almara::DayCounting;
+
 namespace {
 
 constexpr std::int32_t kNotComputed = -1;
@@ -68,9 +70,9 @@ EasterCache easterCache;
 // What the rule of Good Friday answered last.
 MonthDay goodFriday{kNotComputed, kNotComputed};
 
-// The Friday at or before a date. A date that the system cannot convert gives all zeroes.
-CCalendarSolarDate FridayBefore(CCalendarSolarDate date) {
-  const almara::DayRun run(date.year, date.month, date.day);
+// The Friday at or before a date. A date that cannot be converted gives all zeroes.
+CCalendarSolarDate FridayBefore(CCalendarSolarDate date, DayCounting counting) {
+  const almara::DayRun run(date.year, date.month, date.day, counting);
   for (int offset = 0; offset > -almara::kDaysOfWeek; --offset) {
     CCalendarSolarDate earlier{};
     if (run.DateAt(offset, earlier) && earlier.dayOfWeek == eCalendarWeekFriday) {
@@ -82,12 +84,13 @@ CCalendarSolarDate FridayBefore(CCalendarSolarDate date) {
 
 }  // namespace
 
-int CCalendarFestivalFunction::_GetDayByWeekNumberOfMonth(int year, int month, int n, int weekday) {
+int CCalendarFestivalFunction::_GetDayByWeekNumberOfMonth(int year, int month, int n, int weekday,
+                                                          DayCounting counting) {
   const int days = _GetMaxDaysOfSolarMonth(year, month);
   if (days < 0) {
     return -1;
   }
-  const almara::DayRun run(year, month, 1);
+  const almara::DayRun run(year, month, 1, counting);
   int count = 0;
   for (int offset = 0; offset <= days; ++offset) {
     CCalendarSolarDate date{};
@@ -112,7 +115,8 @@ int CCalendarFestivalFunction::_GetEasterDay2(int year, int* month, int* day) {
   return 1;
 }
 
-int CCalendarFestivalFunction::_GetGoodFriday(int year, int* month, int* day) {
+int CCalendarFestivalFunction::_GetGoodFriday(int year, int* month, int* day,
+                                              DayCounting counting) {
   if (month == nullptr || day == nullptr) {
     return 0;
   }
@@ -125,7 +129,7 @@ int CCalendarFestivalFunction::_GetGoodFriday(int year, int* month, int* day) {
     easterCache.Compute(year);
   }
   const CCalendarSolarDate friday =
-      FridayBefore({year, easterCache.suEasterMonth, easterCache.suEasterDay, 0});
+      FridayBefore({year, easterCache.suEasterMonth, easterCache.suEasterDay, 0}, counting);
   goodFriday = {friday.month, friday.day};
   *month = goodFriday.month;
   *day = goodFriday.day;

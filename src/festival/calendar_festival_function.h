@@ -2,6 +2,8 @@
 #ifndef ALMARA_FESTIVAL_CALENDAR_FESTIVAL_FUNCTION_H_
 #define ALMARA_FESTIVAL_CALENDAR_FESTIVAL_FUNCTION_H_
 
+#include "date/day_counting.h"
+
 // Dates of feasts that move within the Gregorian year. Days of the week run from 0 = Sunday to
 // 6 = Saturday. Every int is accepted. The Easter rules remember what they computed last, for the
 // whole process and without a lock: call them from one thread.
@@ -10,7 +12,9 @@ class CCalendarFestivalFunction {
   // The day of the month of its n-th given weekday, n from 1. -1 outside 1900 to 2099 and months 1
   // to 12 and where the month has no such day; the count runs one day past the month's end, so a
   // fifth weekday may also be 1, the first day of the next month.
-  static int _GetDayByWeekNumberOfMonth(int year, int month, int n, int weekday);
+  static int _GetDayByWeekNumberOfMonth(
+      int year, int month, int n, int weekday,
+      almara::DayCounting counting = almara::DayCounting::kLocalTime);
 
   // 28 to 31; -1 outside 1900 to 2099 and months 1 to 12.
   static int _GetMaxDaysOfSolarMonth(int year, int month);
@@ -25,7 +29,8 @@ class CCalendarFestivalFunction {
   // The Friday before Easter Sunday of any year. 1 with month and day written, 0 where a pointer is
   // null. Where the day computed last equals the year, the month computed last is written with the
   // year as the day, so a year 1 to 31 may answer with another year's date.
-  static int _GetGoodFriday(int year, int* month, int* day);
+  static int _GetGoodFriday(int year, int* month, int* day,
+                            almara::DayCounting counting = almara::DayCounting::kLocalTime);
 
   // ---- Interface that nothing in the library calls, kept for code written against this class ----
 

@@ -170,14 +170,16 @@ struct MovableFeasts {
   int goodFridayDay = 0;
 };
 
-MovableFeasts AskMovableFeasts(int year) {
+MovableFeasts AskMovableFeasts(int year, DayCounting counting) {
   MovableFeasts feasts;
   CCalendarFestivalFunction::_GetEasterDay2(year, &feasts.easterMonth, &feasts.easterDay);
-  CCalendarFestivalFunction::_GetGoodFriday(year, &feasts.goodFridayMonth, &feasts.goodFridayDay);
+  CCalendarFestivalFunction::_GetGoodFriday(year, &feasts.goodFridayMonth, &feasts.goodFridayDay,
+                                            counting);
   return feasts;
 }
 
-bool Holds(const SolarFestivalRule& rule, CCalendarSolarDate date, const MovableFeasts& feasts) {
+bool Holds(const SolarFestivalRule& rule, CCalendarSolarDate date, const MovableFeasts& feasts,
+           DayCounting counting) {
   switch (rule.kind) {  // GCOVR_EXCL_BR_LINE: every kind has a case
     case RuleKind::kDay:
       return date.month == rule.month && date.day == rule.day;
@@ -185,8 +187,8 @@ bool Holds(const SolarFestivalRule& rule, CCalendarSolarDate date, const Movable
       if (date.month != rule.month) {
         return false;
       }
-      const int day = CCalendarFestivalFunction::_GetDayByWeekNumberOfMonth(date.year, rule.month,
-                                                                            rule.nth, rule.weekday);
+      const int day = CCalendarFestivalFunction::_GetDayByWeekNumberOfMonth(
+          date.year, rule.month, rule.nth, rule.weekday, counting);
       return day != -1 && date.day == day;
     }
     case RuleKind::kEasterSunday:
@@ -197,11 +199,11 @@ bool Holds(const SolarFestivalRule& rule, CCalendarSolarDate date, const Movable
   return date.month == feasts.goodFridayMonth && date.day == feasts.goodFridayDay;
 }
 
-EFestivalSolar FestivalOf(const RuleList& rules, CCalendarSolarDate date) {
+EFestivalSolar FestivalOf(const RuleList& rules, CCalendarSolarDate date, DayCounting counting) {
   const MovableFeasts feasts =
-      rules.hasMovableFeasts ? AskMovableFeasts(date.year) : MovableFeasts{};
+      rules.hasMovableFeasts ? AskMovableFeasts(date.year, counting) : MovableFeasts{};
   for (const SolarFestivalRule* rule = rules.first; rule != rules.last; ++rule) {
-    if (Holds(*rule, date, feasts)) {
+    if (Holds(*rule, date, feasts, counting)) {
       return rule->code;
     }
   }
@@ -210,13 +212,15 @@ EFestivalSolar FestivalOf(const RuleList& rules, CCalendarSolarDate date) {
 
 }  // namespace
 
-EFestivalSolar RegionSolarFestival(ELanguage language, CCalendarSolarDate date) {
+EFestivalSolar RegionSolarFestival(ELanguage language, CCalendarSolarDate date,
+                                   DayCounting counting) {
   const bool isRegion = language >= eLanguageChs && language <= eLanguageTha;
-  return isRegion ? FestivalOf(kRegions[language - eLanguageChs], date) : eFestivalSolarNone;
+  return isRegion ? FestivalOf(kRegions[language - eLanguageChs], date, counting)
+                  : eFestivalSolarNone;
 }
 
-EFestivalSolar CommonSolarFestival(CCalendarSolarDate date) {
-  return FestivalOf(kEveryRegion, date);
+EFestivalSolar CommonSolarFestival(CCalendarSolarDate date, DayCounting counting) {
+  return FestivalOf(kEveryRegion, date, counting);
 }
 
 }  // namespace almara

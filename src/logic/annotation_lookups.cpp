@@ -25,12 +25,12 @@ ESolarKyureki24 CCalendarLogic::Check24Sekki(CCalendarSolarDate date) {
 
 EFestivalSolar CCalendarLogic::CheckFestivalSolar(ELanguage language, CCalendarSolarDate date) {
   return m_mapFestivalSolarCache.GetOrCompute(language, date, [&] {
-    return static_cast<KeptCode>(m_festival.GetFestivalBySolar(language, date));
+    return static_cast<KeptCode>(m_festival.GetFestivalBySolar(language, date, GetDayCounting()));
   });
 }
 
 EFestivalLunar CCalendarLogic::CheckFestivalLunar(ELanguage language, CCalendarSolarDate date) {
   return m_mapFestivalLunarCache.GetOrCompute(language, date, [&] {
-    return static_cast<KeptCode>(m_festival.GetFestivalByLunar(language, date));
+    return static_cast<KeptCode>(m_festival.GetFestivalByLunar(language, date, GetDayCounting()));
   });
 }

@@ -7,10 +7,13 @@
 
 #include "board/standard_output.h"
 #include "date/calendar_platform_api.h"
+#include "date/day_run.h"
 #include "date/gregorian.h"
 #include "date/int32.h"
 #include "festival/calendar_festival_function.h"
 
+using almara::DateByOffset;
+using almara::DayCounting;
 using almara::kDaysOfWeek;
 using almara::kMonthsOfYear;
 using almara::PageDirection;
@@ -70,6 +73,17 @@ int FloorModulo(int value, int divisor) {
 
 CCalendarLogic::CCalendarLogic() : m_festival(this) {}
 
+void CCalendarLogic::SetCivilDays(bool on) {
+  const DayCounting counting = on ? DayCounting::kCivil : DayCounting::kLocalTime;
+  if (counting == GetDayCounting()) {
+    return;
+  }
+  SetDayCounting(counting);
+  m_weekNumber.ForgetAnswers();
+  m_mapFestivalSolarCache.Clear();
+  m_mapFestivalLunarCache.Clear();
+}
+
 void CCalendarLogic::InitCalendarLogic(ELanguage language) {
   SetZone(ZoneOfLanguage(language));
   GotoToday();
@@ -124,7 +138,7 @@ void CCalendarLogic::GotoPreviousPage() {
     return;
   }
   const CCalendarSolarDate date =
-      CalendarPlatformApi::GetNewDateByOffsetDays(m_board.content.first.GetDate(), -1);
+      DateByOffset(m_board.content.first.GetDate(), -1, GetDayCounting());
   m_pageDirection = PageDirection::kBackward;
   _Show(date);
 }
@@ -134,8 +148,7 @@ void CCalendarLogic::GotoNextPage() {
     _GotoNextMonth();
     return;
   }
-  const CCalendarSolarDate date =
-      CalendarPlatformApi::GetNewDateByOffsetDays(m_board.content.last.GetDate(), 1);
+  const CCalendarSolarDate date = DateByOffset(m_board.content.last.GetDate(), 1, GetDayCounting());
   m_pageDirection = PageDirection::kForward;
   _Show(date);
 }
@@ -191,7 +204,7 @@ void CCalendarLogic::_GotoMonthOffset(const CCalendarSolarDate& today, int offse
 
 void CCalendarLogic::_GotoPageOffset(const CCalendarSolarDate& today, int offset) {
   const int days = WrapMultiply(WrapMultiply(kDaysOfWeek, GetMaxRows()), offset);
-  const CCalendarSolarDate date = CalendarPlatformApi::GetNewDateByOffsetDays(today, days);
+  const CCalendarSolarDate date = DateByOffset(today, days, GetDayCounting());
   m_pageDirection = PageDirection::kNone;
   _WriteTrace("build-logic ", date);
   _Show(date);

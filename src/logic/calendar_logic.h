@@ -22,6 +22,11 @@ class CCalendarLogic : public CCalendarLogicBuild {
  public:
   CCalendarLogic();
 
+  // Counts days by the calendar alone, or in local time, as by default. A change forgets the kept
+  // answers that may depend on it: week numbers and festivals.
+  bool IsCivilDays() const { return GetDayCounting() == almara::DayCounting::kCivil; }
+  void SetCivilDays(bool on);
+
   // Fixes the time zone of lunar dates and solar terms to 8 (language 1 or 4) or 9 hours (2 or 7),
   // or leaves it as it is, and builds today's board. The language itself is not kept.
   void InitCalendarLogic(ELanguage language);

@@ -13,6 +13,7 @@ typedef void (*IntSetter)(int);
 typedef void (*DayByteSetter)(int32_t, uint8_t);
 typedef void (*DayIntSetter)(int32_t, int);
 typedef char* (*TextGetter)(void);
+typedef _Bool (*FlagGetter)(void);
 
 static void* library;
 static TextGetter getKey;
@@ -71,6 +72,27 @@ static void CheckBreakDays(void) {
   setByte(3, 2);
 }
 
+/* A flag that is no part of the key. */
+static void CheckFlag(const char* setter, const char* getter) {
+  ByteSetter setByte;
+  IntSetter setInt;
+  FlagGetter get;
+  Find(setter, &setByte);
+  Find(setter, &setInt);
+  Find(getter, &get);
+  for (int value = 0; value <= 511; ++value) {
+    if (value <= 255) {
+      setByte((uint8_t)value);
+    } else {
+      setInt(value);
+    }
+    if (get() != ((value & 1) != 0)) {
+      fprintf(stderr, "%s(%d): %s is %d\n", setter, value, getter, get());
+      ++failures;
+    }
+  }
+}
+
 int main(int argc, char** argv) {
   library = argc == 2 ? dlopen(argv[1], RTLD_NOW | RTLD_LOCAL) : NULL;
   if (library == NULL) {
@@ -85,5 +107,6 @@ int main(int argc, char** argv) {
               "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1");
   CheckSetter("SetShowBreakDayOfWeek", "1-5-7-1-1-1-0-1-0-(0-0-0-0-0-1-1)-0",
               "1-5-7-1-1-1-0-1-0-(0-0-0-0-0-1-1)-1");
+  CheckFlag("SetCivilDays", "GetCivilDays");
   return failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -54,6 +54,7 @@ TEST_F(MissingEngine, OptionsHaveFallbacksOfTheirOwn) {
   EXPECT_FALSE(GetShowMonthInterval());
   EXPECT_FALSE(GetShowBreakDayOfWeek());
   EXPECT_EQ(GetWeekNumberCalcType(), eWeekNumberCalcIso8601);
+  EXPECT_FALSE(GetCivilDays());
   EXPECT_FALSE(IsBreakDayOfWeek(0));
   EXPECT_EQ(GetConfigKey(), nullptr);
   EXPECT_FALSE(GetPrintBoard());
@@ -76,12 +77,14 @@ TEST_F(MissingEngine, CommandsDoNothing) {
   SetShowMonthInterval(false);
   SetShowBreakDayOfWeek(false);
   SetWeekNumberCalcType(eWeekNumberCalcFromJan1);
+  SetCivilDays(true);
   SetBreakDayOfWeek(3, true);
   SetPrintBoard(false);
   ForgetAnnotations();
   EXPECT_EQ(m_engine->GetConfigKey(), "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1");
   EXPECT_EQ(m_engine->GetContentRows(), 0);
   EXPECT_TRUE(m_engine->IsPrintBoard());
+  EXPECT_FALSE(m_engine->IsCivilDays());
 }
 
 TEST_F(MissingEngine, ArithmeticNeedsNone) {

@@ -7,6 +7,7 @@
 #include "yardstick/days.h"
 
 using almara::DateOf;
+using almara::DayCounting;
 using almara::DayRun;
 
 namespace {
@@ -36,7 +37,7 @@ TEST(DayRun, GivesTheDatesOfSeparateConversions) {
   const auto days = almara::test::DaysOfYears(1900, 2099);
   for (std::size_t i = 0; i < days.size(); i += 29) {
     const CCalendarSolarDate& first = days[i];
-    const DayRun run(first.year, first.month, first.day);
+    const DayRun run(first.year, first.month, first.day, DayCounting::kLocalTime);
     for (int offset = -60; offset <= 60; offset += 3) {
       CCalendarSolarDate date{};
       ASSERT_TRUE(run.DateAt(offset, date));
@@ -49,7 +50,7 @@ TEST(DayRun, GivesTheDatesOfSeparateConversions) {
 
 TEST(DayRun, GivesTheDatesOfSeparateConversionsAroundDecember2011) {
   for (int day = 1; day <= 45; ++day) {
-    const DayRun run(2011, 12, day);
+    const DayRun run(2011, 12, day, DayCounting::kLocalTime);
     for (int offset = -45; offset <= 45; ++offset) {
       CCalendarSolarDate date{};
       ASSERT_TRUE(run.DateAt(offset, date));
@@ -59,7 +60,7 @@ TEST(DayRun, GivesTheDatesOfSeparateConversionsAroundDecember2011) {
 }
 
 TEST(DayRun, FormsTheSecondsIn32Bits) {
-  const DayRun run(2024, 1, 1);
+  const DayRun run(2024, 1, 1, DayCounting::kLocalTime);
   CCalendarSolarDate date{};
   ASSERT_TRUE(run.DateAt(24855, date));
   EXPECT_EQ(date.year, 2092);

@@ -36,7 +36,7 @@ EXTREMES = (-2147483648, -2147481749, -1, 0, 1, 14, 26, 31, 2147483647, 21474817
 
 
 class Generator:
-    """Random annotation calls, and now and then one that changes the zone value between them."""
+    """Random annotation calls, and now and then one that changes the zone value or the counting."""
 
     def __init__(self, seed):
         self.random = random.Random(seed)
@@ -51,6 +51,8 @@ class Generator:
             return ("GetToday",)
         if draw < 0.02:
             return ("ForgetAnnotations",)
+        if draw < 0.025:
+            return ("SetCivilDays", self.random.choice((0, 1, 2, 3)))
         if draw < 0.25:
             return (LUNAR, self.date())
         if draw < 0.35:

@@ -100,6 +100,7 @@ class Generator:
         self.random = random.Random(seed)
         self.today = tuple(int(part) for part in today[:10].split("-"))
         self.wild = self.random.random() < 0.3
+        self.civil = self.random.random() < 0.3
         self.pending = []
         self.year_turn = self.random.random() < 0.2
         if self.year_turn:
@@ -156,6 +157,8 @@ class Generator:
             "SetHideBreakDay": FLAGS,
             "SetPrintBoard": FLAGS,
         }
+        if self.civil:
+            values["SetCivilDays"] = FLAGS
         name = self.pick((*values, "SetDispMonth", "SetBreakDayOfWeek", "SetBreakDayOfWeek"))
         if name == "SetBreakDayOfWeek":
             pattern = self.random.randrange(128)
@@ -236,6 +239,7 @@ GETTERS = (
     "GetShowBreakDayOfWeek",
     "GetPrintBoard",
     "GetWeekNumberCalcType",
+    "GetCivilDays",
     "GetConfigKey",
 )
 

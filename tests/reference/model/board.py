@@ -207,12 +207,12 @@ class Board:
         """The week number of a cell, counted so that the start week reads 1."""
         calc_type = self.options.week_number_calc_type
         start = self.options.start_week_number
-        week = self.week_numbers.number(*item.ymd, calc_type)
+        week = self.week_numbers.number(*item.ymd, calc_type, self.dates.civil)
         if week >= start:
             return wrap32(week + 1 - start)
         next_year = wrap32(item.year - today.year) == 1
         if next_year and calc_type == FROM_START_WEEK and wrap32(start - 30) > week:
-            last = self.week_numbers.number(item.year, 12, 31, calc_type)
+            last = self.week_numbers.number(item.year, 12, 31, calc_type, self.dates.civil)
             return wrap32(last + week - start)
         return week
 

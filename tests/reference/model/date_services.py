@@ -6,12 +6,15 @@ values that the C functions accept.
 """
 
 import ctypes
+from datetime import date
 from typing import NamedTuple
 
-from .arithmetic import quotient, wrap32
+from .arithmetic import INT32_MAX, INT32_MIN, quotient, wrap32
 
 ZONE_UNKNOWN = 10000
 SECONDS_PER_DAY = 86400
+DAYS_OF_400_YEARS = 146097
+EPOCH = date(1970, 1, 1).toordinal()
 
 
 class SolarDate(NamedTuple):
@@ -81,12 +84,35 @@ def broken_down(seconds):
     return record.contents if record else None
 
 
+def civil_date(seconds):
+    """The date of an instant in UTC, or None; years of any size repeat those of 1 to 400."""
+    cycles, days = divmod(seconds // SECONDS_PER_DAY + EPOCH - 1, DAYS_OF_400_YEARS)
+    day = date.fromordinal(days + 1)
+    year = day.year + 400 * cycles
+    if not INT32_MIN <= year - 1900 <= INT32_MAX:
+        return None
+    return SolarDate(wrap32(year), day.month, day.day, day.isoweekday() % 7)
+
+
+def civil_midnight(year, month, day):
+    """``local_midnight`` as it is in UTC, without a clock."""
+    carried, month_from_zero = divmod(wrap32(month - 1), 12)
+    cycles, year_of_cycle = divmod(wrap32(year - 1900) + 1900 + carried - 1, 400)
+    first = date(year_of_cycle + 1, month_from_zero + 1, 1).toordinal() + DAYS_OF_400_YEARS * cycles
+    seconds = (first + wrap32(day) - 1 - EPOCH) * SECONDS_PER_DAY
+    return -1 if civil_date(seconds) is None else seconds
+
+
 class DateServices:
-    """The date services together with the zone value that the astronomy uses."""
+    """The date services together with the zone value that the astronomy uses.
+
+    ``civil`` tells whether days are counted by the calendar alone; today never is.
+    """
 
     def __init__(self, clock=system_clock):
         self.clock = clock
         self.zone_hours = ZONE_UNKNOWN
+        self.civil = False
 
     def today(self):
         """Today's local date; the first call also settles a zone value that is still unknown."""
@@ -100,11 +126,16 @@ class DateServices:
 
     def normalised(self, year, month, day):
         """The date with out-of-range fields carried over, and its day of week."""
-        record = broken_down(local_midnight(year, month, day))
-        return SolarDate(year, month, day) if record is None else record.solar_date()
+        return self._counted(year, month, day, 0) or SolarDate(year, month, day)
 
     def shifted(self, year, month, day, offset_days):
         """The date ``offset_days`` later; all zero when the platform cannot tell."""
-        start = local_midnight(year, month, day)
-        record = broken_down(start + wrap32(offset_days * SECONDS_PER_DAY))
-        return SolarDate() if record is None else record.solar_date()
+        return self._counted(year, month, day, offset_days) or SolarDate()
+
+    def _counted(self, year, month, day, offset_days):
+        """The date ``offset_days`` later, or None."""
+        seconds = wrap32(offset_days * SECONDS_PER_DAY)
+        if self.civil:
+            return civil_date(civil_midnight(year, month, day) + seconds)
+        record = broken_down(local_midnight(year, month, day) + seconds)
+        return None if record is None else record.solar_date()

@@ -152,6 +152,12 @@ class Engine:
     def set_week_number_calc_type(self, calc_type):
         self.options.week_number_calc_type = calc_type
 
+    def get_civil_days(self):
+        return self.logic.dates.civil
+
+    def set_civil_days(self, on):
+        self.logic.set_civil_days(bool(on & 1))
+
     def set_break_day_of_week(self, day, is_break):
         self.options.set_break_day(day, is_break)
 

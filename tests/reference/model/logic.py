@@ -42,6 +42,14 @@ class Logic:
         self.board.week_numbers.answers.clear()
         self.dates.zone_hours = ZONE_UNKNOWN
 
+    def set_civil_days(self, on):
+        """Change how days are counted and forget what may depend on it."""
+        if on != self.dates.civil:
+            self.dates.civil = on
+            self.board.week_numbers.answers.clear()
+            self.solar_festivals.clear()
+            self.lunar_festivals.clear()
+
     # Navigation
 
     def init(self, language):

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 """Week numbers of Gregorian dates, and the calendar helpers that belong to them."""
 
+from datetime import date
+
 from .arithmetic import quotient, remainder
 from .date_services import SECONDS_PER_DAY, local_midnight
 
@@ -59,16 +61,19 @@ def _iso_week(year, month, day, late_start_correction):
     return week - 1 if late_start_correction and january_first > 3 else week
 
 
-def week_of_year(year, month, day):
+def week_of_year(year, month, day, civil=False):
     """The week number with 1 January in week 1 and weeks from Monday, -1 when not accepted.
 
-    The days are counted between two local midnights.  Where the clocks move forward between them
-    the count is one day short.
+    The days are counted between two local midnights, unless they are civil.  Where the clocks move
+    forward between them the count is one day short.
     """
     if not is_accepted(year, month, day):
         return NO_WEEK
-    elapsed = local_midnight(year, month, day, -1) - local_midnight(year, 1, 1, -1)
-    days = quotient(elapsed, SECONDS_PER_DAY)
+    if civil:
+        days = (date(year, month, 1) - date(year, 1, 1)).days + day - 1
+    else:
+        elapsed = local_midnight(year, month, day, -1) - local_midnight(year, 1, 1, -1)
+        days = quotient(elapsed, SECONDS_PER_DAY)
     return quotient(days + (january_first_weekday(year) + 6) % 7, 7) + 1
 
 
@@ -148,10 +153,12 @@ class WeekNumbers:
     def __init__(self):
         self.answers = {}
 
-    def number(self, year, month, day, calc_type):
+    def number(self, year, month, day, calc_type, civil=False):
         """The week number of a date under a convention, or -1."""
         key = f"{year}-{month}-{day}-{calc_type}"
         if key not in self.answers:
-            rule = iso_week if calc_type == ISO_8601 else week_of_year
-            self.answers[key] = rule(year, month, day)
+            if calc_type == ISO_8601:
+                self.answers[key] = iso_week(year, month, day)
+            else:
+                self.answers[key] = week_of_year(year, month, day, civil)
         return self.answers[key]
