@@ -12,10 +12,6 @@
 namespace almara::viewer {
 namespace {
 
-CCalendarSolarDate EngineDate(CivilDate date) {
-  return CreateSolarDate(date.year, date.month, date.day, 0);
-}
-
 // The name of a month or day of the lunar calendar, or its number in a language without names.
 template <std::size_t kCount>
 std::string NameOrNumber(const std::array<const char*, kCount>& names, int number) {
@@ -33,13 +29,18 @@ PatternValues LunarValues(const Texts& texts, const CCalendarLunarDate& lunar) {
 
 }  // namespace
 
-Annotation Annotator::Annotate(CivilDate date) {
+Annotation Annotator::AnnotateBy(LunarSource source, CivilDate date) {
   if (m_region == eLanguageUsa) {
     FindEaster(date.year);
   }
-  const CCalendarSolarDate day = EngineDate(date);
+  const CCalendarSolarDate day = SolarDate(date);
+  const EFestivalSolar solarFestival = CheckFestivalSolarWithLang(m_region, day);
+  if (source == LunarSource::kAlmanac) {
+    return {AlmanacLunarDate(m_calendar, day), AlmanacTermOfDate(m_calendar, day),
+            AlmanacLunarFestival(m_calendar, m_region, day), solarFestival};
+  }
   return {ConverterLunarWithDate(day), Check24SekkiWithDate(day),
-          CheckFestivalLunarWithLang(m_region, day), CheckFestivalSolarWithLang(m_region, day)};
+          CheckFestivalLunarWithLang(m_region, day), solarFestival};
 }
 
 // The engine learns a year's Easter Sunday from the first question about the year, and answers it
@@ -50,10 +51,10 @@ void Annotator::FindEaster(int year) {
   if (!m_yearsWithEaster.insert(year).second) {
     return;
   }
-  CheckFestivalSolarWithLang(m_region, EngineDate({year, 1, 1}));
+  CheckFestivalSolarWithLang(m_region, SolarDate({year, 1, 1}));
   constexpr int kDaysOfEaster = 35;  // from 22 March to 25 April
   for (int day = 0; day < kDaysOfEaster; ++day) {
-    CheckFestivalSolarWithLang(m_region, EngineDate(AddDays({year, 3, 22}, day)));
+    CheckFestivalSolarWithLang(m_region, SolarDate(AddDays({year, 3, 22}, day)));
   }
 }
 

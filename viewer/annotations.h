@@ -1,18 +1,26 @@
 // SPDX-License-Identifier: MIT
-// What the engine knows about a day beside the board: lunar date, solar term and festivals.
+// What is known about a day beside the board: lunar date, solar term and festivals.
 #ifndef ALMARA_VIEWER_ANNOTATIONS_H_
 #define ALMARA_VIEWER_ANNOTATIONS_H_
 
-#include <almara/almara_types.h>
+#include <almara/almanac.h>
 
 #include <set>
 #include <string>
 #include <vector>
 
+#include "board_options.h"
 #include "civil_date.h"
 #include "texts.h"
 
 namespace almara::viewer {
+
+// Whose lunar dates, solar terms and lunar festivals: those of the region's calendar as published,
+// or the engine's own. Solar festivals are always the engine's.
+enum class LunarSource { kAlmanac, kEngine };
+
+constexpr Word<LunarSource> kLunarSourceWords[] = {{"almanac", LunarSource::kAlmanac},
+                                                   {"engine", LunarSource::kEngine}};
 
 struct Annotation {
   CCalendarLunarDate lunar{};
@@ -26,17 +34,24 @@ struct Annotation {
   bool HasName() const { return solarTerm != eSekkiNone || HasFestival(); }
 };
 
-// Asks the engine, which keeps every answer. To be used once the engine is started.
+// Asks the almanac and the engine, which keeps every answer. To be used once the engine is started.
 class Annotator {
  public:
-  explicit Annotator(ELanguage region) : m_region(region) {}
+  Annotator(ELanguage region, LunarSource source)
+      : m_region(region), m_calendar(AlmanacCalendarOfLanguage(region)), m_source(source) {}
 
-  Annotation Annotate(CivilDate date);
+  LunarSource Source() const { return m_source; }
+  EAlmanacCalendar Calendar() const { return m_calendar; }
+
+  Annotation Annotate(CivilDate date) { return AnnotateBy(m_source, date); }
+  Annotation AnnotateBy(LunarSource source, CivilDate date);
 
  private:
   void FindEaster(int year);
 
   ELanguage m_region;
+  EAlmanacCalendar m_calendar;
+  LunarSource m_source;
   std::set<int> m_yearsWithEaster;
 };
 

@@ -60,7 +60,8 @@ BoardOptions ReadOptions(const BoardOptions& asked) {
 
 }  // namespace
 
-void StartEngine(const BoardOptions& options) {
+void StartEngine(const BoardOptions& options, bool printBoards) {
+  SetPrintBoard(printBoards);
   ApplyOptions(options);
   InitCalendarLogicDt(options.language);
 }

@@ -60,6 +60,11 @@ constexpr CivilDate FirstOfMonth(int monthNumber) {
 
 ECalendarWeek DayOfWeek(CivilDate date);
 
+// The date as the library's functions take it; none of them reads the day of the week.
+constexpr CCalendarSolarDate SolarDate(CivilDate date) {
+  return {date.year, date.month, date.day, 0};
+}
+
 // Reads YYYY-MM-DD. On failure the date is empty and the problem says why, as the end of a sentence
 // that begins with the name of the option.
 struct ParsedDate {

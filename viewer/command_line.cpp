@@ -196,6 +196,8 @@ class CommandLine {
             [&board] { board.hideBreakDays = true; });
     AddFlag("--no-annotations", "No line under the days and no legend", kPages,
             [this] { m_options.annotations = false; });
+    AddWord("--lunar", "WHOSE", "Lunar dates and terms: almanac (published) or engine", kAll,
+            kLunarSourceWords, m_options.lunar);
     AddWord("--language", "REGION", "chs, cht, deu, eng, jpn, kor, rus, tha, usa or vit", kAll,
             kLanguageWords, board.language);
   }

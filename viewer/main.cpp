@@ -5,6 +5,7 @@
 
 #include "command_line.h"
 #include "error_report.h"
+#include "output.h"
 #include "program.h"
 
 namespace almara::viewer {
@@ -16,9 +17,8 @@ void Run(int argc, char** argv) {
   defaults.board.language = locale.language;
   defaults.board.firstDay = locale.firstDay;
   const Options options = ParseCommandLine(argc, argv, defaults);
-  Output output(options.dump);
-  RunProgram(options, locale, output);
-  if (!output.Finish()) {
+  RunProgram(options, locale);
+  if (!FinishOutput()) {
     throw std::runtime_error("could not write to the standard output");
   }
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "annotations.h"
 #include "board_options.h"
 #include "civil_date.h"
 #include "styled_text.h"
@@ -41,6 +42,7 @@ struct Options {
   int monthsAfter = 0;
   WeekNumbers weekNumbers = WeekNumbers::kIfRoom;
   bool annotations = true;
+  LunarSource lunar = LunarSource::kAlmanac;
   CivilDate day;            // for Task::kShowDay
   std::optional<int> year;  // for Task::kListYear; none is this year
   std::string text;         // for Task::kPrintText

@@ -1,28 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "output.h"
 
-#include <fcntl.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-#include <cerrno>
+#include <cstdio>
 #include <cstdlib>
-#include <system_error>
 
 namespace almara::viewer {
 namespace {
-
-[[noreturn]] void Fail(const char* what) {
-  throw std::system_error(errno, std::generic_category(), what);
-}
-
-void Silence(int descriptor) {
-  const int null = open("/dev/null", O_WRONLY | O_CLOEXEC);
-  if (null < 0 || dup2(null, descriptor) < 0) {
-    Fail("/dev/null");
-  }
-  close(null);
-}
 
 // Select Graphic Rendition codes; empty for text in the terminal's own look.
 std::string ColorCodes(const Look& look, Palette palette) {
@@ -69,39 +55,19 @@ Palette PaletteOfTerminal() {
 
 }  // namespace
 
-Output::Output(bool showDump) {
-  std::fflush(stdout);
-  const int own = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
-  if (own < 0) {
-    Fail("standard output");
-  }
-  m_file = fdopen(own, "w");
-  if (m_file == nullptr) {
-    Fail("standard output");
-  }
-  if (!showDump) {
-    Silence(STDOUT_FILENO);
-  }
-}
+bool OutputIsTerminal() { return isatty(STDOUT_FILENO) != 0; }
 
-Output::~Output() { std::fclose(m_file); }
-
-bool Output::IsTerminal() const { return isatty(fileno(m_file)) != 0; }
-
-int Output::Columns() const {
+int OutputColumns() {
   winsize size{};
-  if (ioctl(fileno(m_file), TIOCGWINSZ, &size) == 0 && size.ws_col > 0) {
+  if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0) {
     return size.ws_col;
   }
   return 80;
 }
 
-void Output::Write(const std::string& text) {
-  std::fflush(stdout);  // the dump, where it is shown, stands before what follows from it
-  std::fwrite(text.data(), 1, text.size(), m_file);
-}
+void Write(const std::string& text) { std::fwrite(text.data(), 1, text.size(), stdout); }
 
-void Output::Write(const std::vector<Line>& lines, Palette palette) {
+void Write(const std::vector<Line>& lines, Palette palette) {
   for (const Line& line : lines) {
     std::string text;
     for (const Piece& piece : line) {
@@ -112,12 +78,12 @@ void Output::Write(const std::vector<Line>& lines, Palette palette) {
   }
 }
 
-bool Output::Finish() { return std::fflush(m_file) == 0 && std::ferror(m_file) == 0; }
+bool FinishOutput() { return std::fflush(stdout) == 0 && std::ferror(stdout) == 0; }
 
-Palette PaletteFor(ColorMode mode, const Output& output) {
+Palette PaletteFor(ColorMode mode) {
   const std::string term = Variable("TERM");
   const bool wanted =
-      Variable("NO_COLOR").empty() && output.IsTerminal() && !term.empty() && term != "dumb";
+      Variable("NO_COLOR").empty() && OutputIsTerminal() && !term.empty() && term != "dumb";
   const bool colored = mode == ColorMode::kAuto ? wanted : mode == ColorMode::kAlways;
   return colored ? PaletteOfTerminal() : Palette::kNone;
 }

@@ -11,6 +11,7 @@
 #include "json_output.h"
 #include "listing.h"
 #include "month_grid.h"
+#include "output.h"
 #include "tui.h"
 
 namespace almara::viewer {
@@ -20,13 +21,12 @@ constexpr int kIndent = 4;  // of the second line of a text that one line has no
 
 class Program {
  public:
-  Program(const Options& options, const LocaleSettings& locale, Output& output)
+  Program(const Options& options, const LocaleSettings& locale)
       : m_options(options),
         m_utf8(locale.utf8),
-        m_output(output),
         m_texts(TextsFor(options.board.language, locale.utf8)),
-        m_annotator(options.board.language) {
-    m_settings.width = options.columns.value_or(output.Columns());
+        m_annotator(options.board.language, options.lunar) {
+    m_settings.width = options.columns.value_or(OutputColumns());
     m_settings.weekNumbers = options.weekNumbers;
     m_settings.texts = &m_texts;
     m_settings.glyphs = &GlyphsFor(locale.utf8 && locale.narrowLines && !options.ascii);
@@ -34,7 +34,7 @@ class Program {
   }
 
   void Run() {
-    StartEngine(m_options.board);
+    StartEngine(m_options.board, m_options.dump);
     CheckClock();
     CheckOffsets();
     switch (m_options.task) {
@@ -55,7 +55,7 @@ class Program {
         break;
       case Task::kFullScreen:
         Navigate();
-        RunTui(m_options, m_settings, m_output);
+        RunTui(m_options, m_settings);
         break;
       case Task::kPrintText:
         break;
@@ -113,7 +113,7 @@ class Program {
     Navigate();
     const BoardSnapshot board = ReadBoard(m_options.board);
     if (m_options.json) {
-      m_output.Write(BoardJson(board, m_annotator, !m_utf8));
+      Write(BoardJson(board, m_annotator, !m_utf8));
       return;
     }
     const PaintedBoard painted = PaintBoard(board, m_settings);
@@ -185,7 +185,7 @@ class Program {
     const DayReport report = {m_options.day, board.today, cell != nullptr ? cell->weekNumber : -1,
                               m_annotator.Annotate(m_options.day)};
     if (m_options.json) {
-      m_output.Write(DayJson(report, m_options.board.language, !m_utf8));
+      Write(DayJson(report, m_options.board.language, !m_utf8));
     } else {
       Print(DayLines(report, m_texts));
     }
@@ -196,7 +196,7 @@ class Program {
     const int year = m_options.year.value_or(today.year);
     const std::vector<NamedDay> days = NamedDaysOfYear(year, m_annotator);
     if (m_options.json) {
-      m_output.Write(YearJson(year, today, days, m_options.board.language, !m_utf8));
+      Write(YearJson(year, today, days, m_options.board.language, !m_utf8));
     } else {
       Print(YearLines(year, today, days, m_texts));
     }
@@ -207,12 +207,11 @@ class Program {
     for (const Line& line : lines) {
       Append(fitting, Wrapped(line, m_settings.width, kIndent));
     }
-    m_output.Write(fitting, PaletteFor(m_options.color, m_output));
+    Write(fitting, PaletteFor(m_options.color));
   }
 
   const Options& m_options;
   bool m_utf8;
-  Output& m_output;
   const Texts m_texts;
   Annotator m_annotator;
   PaintSettings m_settings;
@@ -220,11 +219,11 @@ class Program {
 
 }  // namespace
 
-void RunProgram(const Options& options, const LocaleSettings& locale, Output& output) {
+void RunProgram(const Options& options, const LocaleSettings& locale) {
   if (options.task == Task::kPrintText) {
-    output.Write(options.text);
+    Write(options.text);
   } else {
-    Program(options, locale, output).Run();
+    Program(options, locale).Run();
   }
 }
 

@@ -5,13 +5,12 @@
 
 #include "locale_settings.h"
 #include "options.h"
-#include "output.h"
 
 namespace almara::viewer {
 
-// Starts the engine and writes to the output, or runs the full screen. Throws UsageError if the
-// options lead outside the calendar, and other exceptions if something fails.
-void RunProgram(const Options& options, const LocaleSettings& locale, Output& output);
+// Starts the engine and writes to the standard output, or runs the full screen. Throws UsageError
+// if the options lead outside the calendar, and other exceptions if something fails.
+void RunProgram(const Options& options, const LocaleSettings& locale);
 
 }  // namespace almara::viewer
 

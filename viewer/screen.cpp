@@ -91,18 +91,18 @@ KeyPress ReadMouse() {
   return {Key::kClick, 0, event.y, event.x};
 }
 
-screen* OpenTerminal(const Output& output) {
+screen* OpenTerminal() {
   // The window's size is the terminal's, not that of LINES and COLUMNS.
   unsetenv("LINES");
   unsetenv("COLUMNS");
-  return newterm(nullptr, output.File(), stdin);
+  return newterm(nullptr, stdout, stdin);
 }
 
 bool CanMoveCursor() { return tigetstr("cup") != nullptr; }
 
 }  // namespace
 
-Screen::Screen(const Output& output, Palette palette) : m_screen(OpenTerminal(output)) {
+Screen::Screen(Palette palette) : m_screen(OpenTerminal()) {
   if (m_screen == nullptr) {
     throw UsageError(kUnsuitable);
   }

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "output.h"
+#include "looks.h"
 #include "styled_text.h"
 
 // Opaque types of ncurses, whose header defines macros that no other file should see.
@@ -47,7 +47,7 @@ struct KeyPress {
 // Owns the screen: entered in the constructor, left as it was found in the destructor.
 class Screen {
  public:
-  Screen(const Output& output, Palette palette);
+  explicit Screen(Palette palette);
   ~Screen();
   Screen(const Screen&) = delete;
   Screen& operator=(const Screen&) = delete;

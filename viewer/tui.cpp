@@ -13,6 +13,7 @@
 #include "error_report.h"
 #include "listing.h"
 #include "navigator.h"
+#include "output.h"
 #include "screen.h"
 #include "stop_signals.h"
 #include "text_layout.h"
@@ -47,7 +48,7 @@ class Tui {
         m_screen(screen),
         m_texts(*settings.texts),
         m_settings(settings),
-        m_annotator(options.board.language),
+        m_annotator(options.board.language, options.lunar),
         m_annotations(options.annotations) {}
 
   // Until the user leaves or a signal asks to stop. Throws if the terminal went away.
@@ -363,13 +364,13 @@ class Tui {
 
 }  // namespace
 
-void RunTui(const Options& options, const PaintSettings& settings, Output& output) {
-  if (!output.IsTerminal() || isatty(STDIN_FILENO) == 0) {
+void RunTui(const Options& options, const PaintSettings& settings) {
+  if (!OutputIsTerminal() || isatty(STDIN_FILENO) == 0) {
     throw UsageError("--tui needs a terminal");
   }
   {
     const StopSignals stopSignals;
-    Screen screen(output, PaletteFor(options.color, output));
+    Screen screen(PaletteFor(options.color));
     Tui(options, settings, screen).Run();
   }
   StopSignals::Deliver();

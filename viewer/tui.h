@@ -5,12 +5,11 @@
 
 #include "board_painter.h"
 #include "options.h"
-#include "output.h"
 
 namespace almara::viewer {
 
 // Runs until the user leaves. The board is built already; the settings say how to draw it.
-void RunTui(const Options& options, const PaintSettings& settings, Output& output);
+void RunTui(const Options& options, const PaintSettings& settings);
 
 }  // namespace almara::viewer
 

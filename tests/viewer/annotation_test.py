@@ -46,7 +46,7 @@ class OnTheBoard(unittest.TestCase):
         board = output("--language", "usa").splitlines()
         self.assertEqual(board[2:4], [
             "   10 ╭  4         5         6         7         8         9·       10·",
-            "      ╰ L25       Awakening L27       L28       Women's   L30       Moon 2"])
+            "      ╰ L24       Awakening L26       L27       Women's   L29       Moon 2"])
         self.assertEqual(board[8:], [
             "   13 ╭ 25        26        27        28        29        30·       31·",
             "      │ L16       L17       L18       L19       Good Fri. L21       Easter",
@@ -83,13 +83,13 @@ class OnTheBoard(unittest.TestCase):
     def test_annotations_can_be_left_out(self):
         board = output("--no-annotations")
         self.assertNotIn("Equinox", board)
-        self.assertNotIn("L25", board)
+        self.assertNotIn("L24", board)
 
     def test_colors(self):
         board = output("--language", "usa", "--color=always")
         self.assertIn("\033[38;5;163m Women's\033[0m", board)
         self.assertIn("\033[38;5;28m Equinox\033[0m", board)
-        self.assertIn("\033[2m L25\033[0m", board)
+        self.assertIn("\033[2m L24\033[0m", board)
 
     def test_cells_in_json(self):
         cells = [cell for row in read_json("--language", "chs", "--date", "2024-02-10")["cells"]
@@ -107,6 +107,45 @@ class OnTheBoard(unittest.TestCase):
             if cell["type"] in (1, 2, 7):
                 self.assertEqual((cell["lunar"], cell["solarTerm"], cell["festivals"]),
                                  (None, None, []))
+
+
+class WhoseLunarDates(unittest.TestCase):
+    """Of the published calendars, unless the engine's are asked for."""
+
+    # The autumn of 2033, where the engine has a leap month 7 that the published calendar has not,
+    # and new years that two regions keep on two days.
+    def lunar(self, *arguments, **settings):
+        return read_json("--language", *arguments, **settings)["lunar"]
+
+    def test_the_almanac(self):
+        month8 = {"year": 2033, "month": 8, "day": 1, "leap": False}
+        for region in ("chs", "cht", "kor", "jpn", "vit", "eng", "usa", "deu", "rus", "tha"):
+            self.assertEqual(self.lunar(region, "--day", "2033-08-25"), month8, region)
+
+    def test_the_engine(self):
+        self.assertEqual(self.lunar("chs", "--day", "2033-08-25", "--lunar", "engine"),
+                         {"year": 2033, "month": 7, "day": 1, "leap": True})
+
+    def test_each_region_has_its_own(self):
+        for region, new_year in (("vit", "2007-02-17"), ("chs", "2007-02-18"), ("eng", "2007-02-18"),
+                                 ("kor", "1997-02-08"), ("jpn", "1997-02-08"), ("cht", "1997-02-07")):
+            lunar = self.lunar(region, "--day", new_year)
+            self.assertEqual((lunar["month"], lunar["day"]), (1, 1), region)
+        for region, festival in (("vit", "2007-02-17"), ("kor", "1997-02-08"), ("cht", "1997-02-07")):
+            self.assertIn("Lunar New Year's Day",
+                          names(read_json("--language", region, "--day", festival)))
+
+    def test_the_machines_zone_has_no_part_in_it(self):
+        for region in ("eng", "vit", "chs"):
+            boards = {self.board_of(region, zone)
+                      for zone in ("UTC", "America/Los_Angeles", "Pacific/Kiritimati")}
+            self.assertEqual(len(boards), 1)
+        self.assertNotEqual(self.board_of("eng", "UTC", "--lunar", "engine"),
+                            self.board_of("eng", "Pacific/Kiritimati", "--lunar", "engine"))
+
+    def board_of(self, region, zone, *arguments):
+        return output("--language", region, "--mode", "month", "--date", "2024-03-20", *arguments,
+                      zone=zone)
 
 
 class Easter(unittest.TestCase):

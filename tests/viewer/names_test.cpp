@@ -80,7 +80,7 @@ TEST_F(Names, WhatARegionMeetsInAYearIsNamedInItsLanguage) {
   for (const ELanguage region :
        {eLanguageChs, eLanguageCht, eLanguageKor, eLanguageJpn, eLanguageVit}) {
     InitCalendarLogicDt(region);
-    Annotator annotator(region);
+    Annotator annotator(region, LunarSource::kAlmanac);
     std::set<std::string> foreign;
     for (int day = DayNumber({2023, 1, 1}); day <= DayNumber({2023, 12, 31}); ++day) {
       for (const DayName& name : NamesOf(annotator.Annotate(FromDayNumber(day)))) {
