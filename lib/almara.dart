@@ -14,8 +14,8 @@
 /// ```
 ///
 /// The library of a process holds one engine. Drive it from one isolate, the
-/// one that draws: everything here answers at once and writes nothing that a
-/// caller waits for, and nothing but the builds of boards is locked.
+/// one that draws: every call is short, and nothing but the building of boards
+/// is locked. `Almanac` may be used from any isolate.
 ///
 /// Comments of the enumerations come from the C headers in `include/almara/`
 /// and name C functions.

@@ -250,6 +250,33 @@ void main() {
     });
   }, skip: skip);
 
+  test('a board lists the days shown', () {
+    const kept = CalendarDate(2024, 1, 31);
+    const first = CalendarDate(2024, 2, 1);
+    const last = CalendarDate(2024, 2, 2);
+    const board = Board(
+      rows: [
+        [
+          BoardCell(
+            kind: CellKind.monthTitle,
+            titleMonth: 2,
+            row: 0,
+            column: 0,
+          ),
+          BoardCell(kind: CellKind.blank, date: kept, row: 0, column: 1),
+          BoardCell(kind: CellKind.breakDay, date: first, row: 0, column: 2),
+        ],
+        [BoardCell(kind: CellKind.today, date: last, row: 1, column: 0)],
+      ],
+      weeks: [WeekSpan(weekNumber: 5, rows: 2)],
+    );
+    expect(board.days, [first, last]);
+    expect(board.firstDay, first);
+    expect(board.lastDay, last);
+    expect(const Board().firstDay, isNull);
+    expect(const Board().days, isEmpty);
+  });
+
   test('codes that nobody knows read as unknown', () {
     expect(Weekday.fromCode(7), Weekday.unknown);
     expect(SolarTerm.fromCode(-1), isNull);

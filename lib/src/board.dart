@@ -7,12 +7,14 @@ import 'records.dart';
 /// What the engine shows for a date: rows of cells, headings, and the column of
 /// week numbers. A value: it does not change when the engine goes on.
 final class Board {
-  const Board._({
-    required this.date,
-    required this.showsToday,
-    required this.headings,
-    required this.rows,
-    required this.weeks,
+  /// A board as given, for the tests of an application; the engine makes those
+  /// that it shows.
+  const Board({
+    this.date,
+    this.showsToday = false,
+    this.headings = const [],
+    this.rows = const [],
+    this.weeks = const [],
   });
 
   /// The date that the board was built for, as it was asked for. Null before
@@ -49,13 +51,16 @@ final class Board {
 
 /// One cell of a [Board].
 final class BoardCell {
-  BoardCell._(this.kind, tagCalendarCell cell)
-    : date = dateOrNull(cell.year, cell.month, cell.day),
-      titleMonth = kind == CellKind.monthTitle ? cell.month : null,
-      weekday = kind.isDay ? Weekday.fromCode(cell.dayOfWeek) : null,
-      weekNumber = cell.weekNumber == -1 ? null : cell.weekNumber,
-      row = cell.row,
-      column = cell.column;
+  /// A cell as given.
+  const BoardCell({
+    required this.kind,
+    this.date,
+    this.titleMonth,
+    this.weekday,
+    this.weekNumber,
+    required this.row,
+    required this.column,
+  });
 
   /// What the cell shows.
   final CellKind kind;
@@ -82,14 +87,10 @@ final class BoardCell {
   final int column;
 }
 
-/// A run of visible rows that share one box in the column of week numbers.
+/// A span: visible rows that share one box in the column of week numbers.
 final class WeekSpan {
-  WeekSpan._(tagWeekNumberSpan span)
-    : weekNumber = span.weekNumber == 0 ? null : span.weekNumber,
-      secondWeekNumber = span.secondWeekNumber == 0
-          ? null
-          : span.secondWeekNumber,
-      rows = span.rows;
+  /// A span as given.
+  const WeekSpan({this.weekNumber, this.secondWeekNumber, required this.rows});
 
   /// The week number to show. Null where the rows have none.
   final int? weekNumber;
@@ -119,7 +120,7 @@ Board readBoard(AlmaraBindings engine) {
   final columns = engine.GetContentColumns();
   final rows = engine.GetContentRows();
   final spans = engine.GetWeekNumberCount();
-  return Board._(
+  return Board(
     date: solarDateOf(engine.GetContentDate()),
     showsToday: engine.IsTodayInBoard(),
     headings: List<Weekday>.unmodifiable([
@@ -135,10 +136,28 @@ Board readBoard(AlmaraBindings engine) {
     ]),
     weeks: List<WeekSpan>.unmodifiable([
       for (var index = 0; index < spans; index++)
-        WeekSpan._(engine.GetWeekNumberItemWithIndex(index)),
+        _spanOf(engine.GetWeekNumberItemWithIndex(index)),
     ]),
   );
 }
 
-BoardCell _cellOf(tagCalendarCell cell) =>
-    BoardCell._(CellKind.fromCode(cell.type), cell);
+BoardCell _cellOf(tagCalendarCell cell) {
+  final kind = CellKind.fromCode(cell.type);
+  return BoardCell(
+    kind: kind,
+    date: dateOrNull(cell.year, cell.month, cell.day),
+    titleMonth: kind == CellKind.monthTitle ? cell.month : null,
+    weekday: kind.isDay ? Weekday.fromCode(cell.dayOfWeek) : null,
+    weekNumber: cell.weekNumber == -1 ? null : cell.weekNumber,
+    row: cell.row,
+    column: cell.column,
+  );
+}
+
+WeekSpan _spanOf(tagWeekNumberSpan span) => WeekSpan(
+  weekNumber: _numberOrNull(span.weekNumber),
+  secondWeekNumber: _numberOrNull(span.secondWeekNumber),
+  rows: span.rows,
+);
+
+int? _numberOrNull(int number) => number == 0 ? null : number;
