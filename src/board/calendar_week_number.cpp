@@ -16,7 +16,8 @@ constexpr int kThursday = 3;  // of days counted from Monday
 
 // Day of the week of 1 January, 0 = Monday.
 int DayOfNewYearFromMonday(int year) {
-  return (almara::DayOfWeekOfNewYear(year) + kDaysOfWeek - 1) % kDaysOfWeek;
+  const int fromSunday = almara::DayOfWeekOfNewYear(year);
+  return fromSunday == eCalendarWeekSunday ? kDaysOfWeek - 1 : fromSunday - 1;
 }
 
 // ISO 8601 week of an accepted date. A year's first days belong to the year before if it begins

@@ -58,9 +58,6 @@ VisiblePart ChooseVisiblePart(const CCalendarConfig& options, const BoardContent
       visible.columns[static_cast<std::size_t>(visible.columnCount++)] = column;
     }
   }
-  if (visible.columnCount == 0) {
-    return visible;
-  }
   const std::size_t rows = std::min<std::size_t>(content.rows.size(), kMaxVisibleRows);
   for (std::size_t row = 0; row < rows; ++row) {
     if (all || HasContent(content.rows[row], visible)) {

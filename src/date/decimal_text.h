@@ -11,7 +11,7 @@ constexpr int kMaxDecimalLength = 12;
 
 // Writes value in decimal with at least minDigits digits, zeroes in front, and a sign if it is
 // negative, as printf's "%.4d" does for 4. Returns the end of the text. out must have room for
-// kMaxDecimalLength characters; minDigits is 0 to 11.
+// kMaxDecimalLength characters; minDigits is 1 to 11.
 char* AppendDecimal(char* out, std::int32_t value, int minDigits);
 
 // Writes "year-month-day" with at least four, two and two digits. out must have room for

@@ -231,6 +231,15 @@ TEST_F(VisiblePartOfBoard, RowOfFillersGoesWithoutBreakDays) {
   EXPECT_EQ(m_board.VisibleRows(), (Indices{0, 1, 2, 4, 5}));
 }
 
+// September 2024 begins on a Sunday, which is hidden.
+TEST_F(VisiblePartOfBoard, TitleInAHiddenFirstColumnKeepsNoRow) {
+  m_board.SetStartDayOfWeek(eCalendarWeekSunday);
+  m_board.SetShowBreakDayOfWeek(false);
+  Build(2024, 8, 21);
+  ASSERT_EQ(m_board.Cell(3, 0).GetType(), eCalendarItemMonthTitle);
+  EXPECT_EQ(m_board.VisibleRows(), (Indices{0, 1, 2, 4}));
+}
+
 TEST_F(VisiblePartOfBoard, RowOfHiddenDaysGoesWithoutBreakDays) {
   m_board.SetDispMonth(eDispMonthWholeMonth);
   m_board.SetShowBreakDayOfWeek(false);
