@@ -5,6 +5,7 @@
 /// ```dart
 /// final engine = AlmaraEngine.open()
 ///   ..printsBoards = false
+///   ..countsCivilDays = true
 ///   ..arrangement = Arrangement.wholeMonth
 ///   ..showsMonthIntervals = false;
 /// var board = engine.start(Region.chs);

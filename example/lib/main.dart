@@ -76,6 +76,7 @@ class _MonthPageState extends State<MonthPage> {
     // What was set before a hot restart still holds, so set all that matters.
     widget.engine
       ..printsBoards = false
+      ..countsCivilDays = true
       ..arrangement = Arrangement.wholeMonth
       ..showsMonthIntervals = false;
     _take(widget.engine.start(_region));

@@ -893,8 +893,7 @@ class AlmaraBindings {
 
   late final _SetCivilDaysPtr =
       _lookup<ffi.NativeFunction<ffi.Void Function(ffi.Bool)>>('SetCivilDays');
-  late final _SetCivilDays = _SetCivilDaysPtr
-      .asFunction<void Function(bool)>(isLeaf: true);
+  late final _SetCivilDays = _SetCivilDaysPtr.asFunction<void Function(bool)>();
 
   /// Sets the arrangement. Not checked: a value outside 1 to 4 gives boards without rows.
   void SetDispMonth(int mode) {

@@ -243,7 +243,8 @@ class AlmaraEngine {
   }
 
   /// The rule for week numbers; [WeekNumberRule.iso8601] by default. The others
-  /// give dates in summer time a number as if they were a day earlier.
+  /// need [countsCivilDays]: without it they number dates in summer time as if
+  /// these were a day earlier.
   ///
   /// Setting [WeekNumberRule.unknown] throws [ArgumentError].
   WeekNumberRule get weekNumberRule =>
@@ -253,10 +254,12 @@ class AlmaraEngine {
   }
 
   /// Whether days are counted by the calendar alone; false by default. Set it
-  /// before [start].
+  /// to true before [start].
   ///
   /// If false, boards show wrong days where the machine's zone set its standard
-  /// time back or calls winter time daylight saving, as in Dublin.
+  /// time back or calls winter time daylight saving, as in Dublin. A change
+  /// makes the engine forget week numbers and festivals, and no board. It is no
+  /// part of [configKey].
   bool get countsCivilDays => _c.GetCivilDays();
   set countsCivilDays(bool value) {
     _c.SetCivilDays(value);
@@ -301,7 +304,8 @@ class AlmaraEngine {
     _c.SetPrintBoard(value);
   }
 
-  /// A text that holds every option: two equal keys mean equal options.
+  /// A text that holds every option but [countsCivilDays] and [printsBoards]:
+  /// two equal keys mean equal options.
   ///
   /// Throws [OutOfMemoryError] if there is no memory for it.
   String get configKey {

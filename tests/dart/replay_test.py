@@ -106,6 +106,7 @@ class ReplayTest(unittest.TestCase):
         engine, region = self.engine, re.search(r"Region _region = Region\.(\w+);", MAIN)[1]
         language = int(CONSTANTS[f"eLanguage{region.capitalize()}"])
         engine.SetPrintBoard(False)
+        engine.SetCivilDays(True)
         engine.SetDispMonth(int(CONSTANTS["eDispMonthWholeMonth"]))
         engine.SetShowMonthInterval(False)
         engine.ForgetAnnotations()
@@ -118,9 +119,11 @@ class ReplayTest(unittest.TestCase):
 
         opened = re.findall(r"\.\.(\w+ =)|\bengine\.(start|today)\b", body_of("initState", MAIN))
         self.assertEqual(["".join(each) for each in opened],
-                         ["printsBoards =", "arrangement =", "showsMonthIntervals =", "start", "today"])
+                         ["printsBoards =", "countsCivilDays =", "arrangement =",
+                          "showsMonthIntervals =", "start", "today"])
         self.assertEqual(engine.calls[:before],
                          [*calls_in(body_of("printsBoards =", ENGINE)),
+                          *calls_in(body_of("countsCivilDays =", ENGINE)),
                           *calls_in(body_of("arrangement =", ENGINE)),
                           *calls_in(body_of("showsMonthIntervals =", ENGINE)),
                           *calls_in(body_of("start", ENGINE)),
