@@ -9,6 +9,7 @@ pictures.
 import datetime
 import os
 import pathlib
+import re
 import sys
 from html import escape
 
@@ -240,6 +241,59 @@ def page_direction(folder):
     picture.save(folder / "page-direction.svg")
 
 
+def words(prefix, code):
+    """The constant of a code as the example application writes it: "Start of spring"."""
+    name = next(name for name, value in vars(almara).items() if name.startswith(prefix) and value == code)
+    text = re.sub(r"([A-Z])", lambda match: " " + match[1].lower(), name[len(prefix):]).strip()
+    return text[0].upper() + text[1:]
+
+
+def note_of(engine, cell):
+    """What the example writes under a day: its festival, or its term, or its lunar day."""
+    date = engine.CreateSolarDate(cell.year, cell.month, cell.day, 0)
+    lunar = engine.ConverterLunarWithDate(date)
+    term = engine.Check24SekkiWithDate(date)
+    solar_festival = engine.CheckFestivalSolarWithLang(CHS, date)
+    lunar_festival = engine.CheckFestivalLunarWithLang(CHS, date)
+    if lunar_festival:
+        return words("eFestivalLunar", lunar_festival)
+    if solar_festival:
+        return words("eFestivalSolar", solar_festival)
+    if term != NO_TERM:
+        return words("eSekki", term)
+    return f"Moon {lunar.month}" if lunar.day == 1 else str(lunar.day)
+
+
+def application(engine, folder):
+    """The month view of the example application, from the calls that it makes."""
+    engine.ForgetAnnotations()
+    engine.SetDispMonth(MONTH)
+    engine.SetShowMonthInterval(False)
+    engine.InitCalendarLogicDt(CHS)
+    engine.GotoSpecifiedDate(2024, 2, 14)
+    picture = Picture(900, 440, "February 2024 as the example application lays it out")
+    picture.text(24, 38, "February 2024", size=20)
+    picture.text(876, 36, "<    Today    >      Chinese (simplified)", FOCUS, "end", size=13)
+    width, height, left, top = 118, 70, 56, 80
+    for column in range(engine.GetContentColumns()):
+        picture.text(left + width * (column + 0.5), top - 10, DAYS[engine.GetCalendarWeekByColumns(column)],
+                     anchor="middle", size=13)
+    first = 0
+    for span in spans(engine):
+        picture.text(28, top + height * (first + span.rows / 2) + 4, span.weekNumber, SOFT, "middle")
+        first += span.rows
+    for row, cells in enumerate(visible_cells(engine)):
+        for column, cell in enumerate(cells):
+            x, y = left + width * column, top + height * row
+            chosen = (cell.year, cell.month, cell.day) == (2024, 2, 14)
+            picture.box(x + 3, y + 3, width - 6, height - 6, stroke=FOCUS if chosen else LINE, radius=10)
+            rest = cell.type in (BREAK, TODAY_BREAK)
+            colour = LINE if cell.month != 2 else "#b3261e" if rest else INK
+            picture.text(x + 12, y + 26, cell.day, colour, size=15)
+            picture.text(x + 12, y + 48, note_of(engine, cell), LINE if cell.month != 2 else SOFT, size=11)
+    picture.save(folder / "application.svg")
+
+
 def main():
     if len(sys.argv) not in (2, 3):
         sys.exit(__doc__)
@@ -249,7 +303,7 @@ def main():
     os.dup2(os.open(os.devnull, os.O_WRONLY), 1)  # the engine writes every board to stdout
     engine.InitCalendarLogicDt(CHS)
     engine.SetMaxRow(6)
-    for draw in (arrangements, anatomy, quarter):
+    for draw in (arrangements, anatomy, quarter, application):
         draw(engine, folder)
     page_direction(folder)
     os.dup2(keep, 1)
