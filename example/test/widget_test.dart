@@ -10,7 +10,7 @@ import 'package:flutter_test/flutter_test.dart';
 
 void main() {
   // There is no bundle under `flutter test`; this names libalmara.so.1.
-  final library = Platform.environment['ALMARA_LIBRARY'];
+  final path = Platform.environment['ALMARA_LIBRARY'];
 
   String titleOf(int monthsFromNow) {
     final now = DateTime.now();
@@ -23,7 +23,7 @@ void main() {
     tester.view.physicalSize = const Size(1280, 720);
     tester.view.devicePixelRatio = 1;
     addTearDown(tester.view.reset);
-    await tester.pumpWidget(CalendarApp(engine: AlmaraEngine.open(library!)));
+    await tester.pumpWidget(CalendarApp(engine: AlmaraEngine.open(path!)));
     await tester.pump();
     expect(find.text(titleOf(0)), findsOneWidget);
 
@@ -36,5 +36,5 @@ void main() {
     await tester.sendEventToBinding(mouse.scroll(const Offset(0, -40)));
     await tester.pump();
     expect(find.text(titleOf(0)), findsOneWidget);
-  }, skip: library == null);
+  }, skip: path == null);
 }

@@ -17,8 +17,8 @@ LunarDate? lunarDateOf(CCalendarLunarDate date) => date.month == 0
     ? null
     : LunarDate(date.year, date.month, date.day, isLeapMonth: date.leap == 1);
 
-CCalendarSolarDate solarRecordOf(AlmaraBindings library, CalendarDate date) =>
-    library.CreateSolarDate(
+CCalendarSolarDate solarRecordOf(AlmaraBindings bindings, CalendarDate date) =>
+    bindings.CreateSolarDate(
       int32(date.year, 'year'),
       int32(date.month, 'month'),
       int32(date.day, 'day'),

@@ -15,7 +15,7 @@ const objectMembers = ['toString', 'hashCode', 'runtimeType'];
 // What the names of variables stand for: the class whose members they have, by folder.
 const receivers = {
   lib: {
-    _c: 'AlmaraBindings', engine: 'AlmaraBindings', library: 'AlmaraBindings',
+    _c: 'AlmaraBindings', engine: 'AlmaraBindings', bindings: 'AlmaraBindings',
     cell: 'tagCalendarCell', span: 'tagWeekNumberSpan',
   },
   application: {
