@@ -46,8 +46,7 @@ class WeekSpanBuilder {
   // Closes the span or lets the next row add to it. A span never holds more than two rows, so it
   // cannot have collected more than a row's worth of undated cells beside a full row of one week.
   void EndRow(const RowEnd& end) {
-    const bool oneWeek = m_span.weekNumber > 0 && m_span.secondWeekNumber == 0;
-    if (oneWeek && m_span.firstWeekCells == m_visibleColumns) {
+    if (m_span.secondWeekNumber == 0 && m_span.firstWeekCells == m_visibleColumns) {
       Emit();
     } else if (m_span.secondWeekNumber < 1 || end.lastWeek < 1) {
       EndOpenRow(end);

@@ -78,9 +78,14 @@ TEST_F(WeekSpans, NoVisibleRowNoSpan) {
   EXPECT_EQ(Of({}), Spans{});
 }
 
-TEST_F(WeekSpans, RowsOfOneWeekAreASpanEach) {
-  EXPECT_EQ(Of({AllOf(9), AllOf(10), AllOf(11)}),
-            (Spans{{9, 7, 0, 0, 0, 1}, {10, 7, 0, 0, 0, 1}, {11, 7, 0, 0, 0, 1}}));
+TEST_F(WeekSpans, RowsOfOneWeekAreASpanEachWhateverTheStartDay) {
+  for (int start = 0; start <= 6; ++start) {
+    m_options.SetStartDayOfWeek(start);
+    EXPECT_EQ(
+        Of({AllOf(9), AllOf(10), AllOf(11), AllOf(12)}),
+        (Spans{{9, 7, 0, 0, 0, 1}, {10, 7, 0, 0, 0, 1}, {11, 7, 0, 0, 0, 1}, {12, 7, 0, 0, 0, 1}}))
+        << start;
+  }
 }
 
 TEST_F(WeekSpans, FirstRowThatEndsWithAWeekStandsAlone) {
@@ -215,6 +220,12 @@ TEST_F(WeekSpans, NewYearBehindABandDividesTheSpan) {
   EXPECT_EQ(Of(weeks), (Spans{{53, 3, 0, 4, 7, 1}, {1, 3, 0, 4, 7, 1}}));
   SundayFirst();
   EXPECT_EQ(Of(weeks), (Spans{{53, 3, 0, 4, 7, 1}, {1, 3, 0, 4, 7, 1}}));
+}
+
+// As many cells of a week as there are columns make no row of one week where a second week follows.
+TEST_F(WeekSpans, NewYearAfterAFullWeekDividesTheSpanToo) {
+  EXPECT_EQ(Of({{52, 52, 52, 52, U, U, U}, {52, 52, 52, 1, 1, 1, 1}}),
+            (Spans{{52, 7, 0, 4, 3, 1}, {1, 7, 0, 4, 3, 1}}));
 }
 
 // The first of the two is written as it was counted, without the Sunday's giving way.
