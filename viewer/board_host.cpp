@@ -62,6 +62,7 @@ BoardOptions ReadOptions(const BoardOptions& asked) {
 
 void StartEngine(const BoardOptions& options, bool printBoards) {
   SetPrintBoard(printBoards);
+  SetCivilDays(true);
   ApplyOptions(options);
   InitCalendarLogicDt(options.language);
 }

@@ -11,7 +11,8 @@ namespace almara::viewer {
 
 // Hands the options to the engine and builds today's board. Comes before everything else: it also
 // fixes the time zone of the engine's lunar dates and solar terms. With `printBoards` the engine
-// writes each board that it builds to the standard output.
+// writes each board that it builds to the standard output. Days are counted by the calendar alone,
+// so that the zone decides nothing but which day is today.
 void StartEngine(const BoardOptions& options, bool printBoards);
 
 // Hands over options that were changed later. The board stays until one of the functions below.

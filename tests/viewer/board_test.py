@@ -370,6 +370,22 @@ class Widths(unittest.TestCase):
         self.assertFalse(set("╭│╰─·…") & set(output("--language", "chs", "--ascii", "--rows", "9")))
 
 
+class Zones(unittest.TestCase):
+    """Zones where a count of 86,400 seconds a day goes astray: winter as summer time, and a standard
+    time that was set back."""
+
+    def test_boards_are_those_of_utc(self):
+        for zone, day in (("Europe/Dublin", "2024-01-15"), ("Europe/Moscow", "2014-10-20"),
+                          ("Asia/Almaty", "2024-03-12")):
+            today = f"{day} 10:00:00"
+            for arguments in (("--mode", "month"), ("--mode", "rolling", "--rows", "8"),
+                              ("--mode", "tail"), ("--mode", "strip"), ("--next",), ("-3",),
+                              ("--week-rule", "jan1", "--rows", "9"), ("--offset", "3"),
+                              (day[:4],), ("--list",), ("--day", f"{day[:7]}-31")):
+                self.assertEqual(output(*arguments, today=today, zone=zone),
+                                 output(*arguments, today=today, zone="UTC"), (zone, arguments))
+
+
 class Dump(unittest.TestCase):
     DUMP = re.compile(r"weeknumber = \d+\t\(\d\)\d{4}-\d\d-\d\d")
 
