@@ -17,6 +17,7 @@ import random
 import sys
 
 from comparison import CHILD_FLAG, CLOCK_STEP, child_main, compare, set_clock
+from library import HEADERS
 
 ZONES = (
     "UTC",
@@ -218,35 +219,27 @@ class Generator:
         return ("CreateSolarDate", *values)
 
 
-NAVIGATION = (
-    "InitCalendarLogicDt",
-    "Build",
-    "GotoToday",
-    "GotoPreviousPage",
-    "GotoNextPage",
-    "GotoSpecifiedDate",
-    "GotoTodayOffset",
-)
+def functions_of(section):
+    return [each for each in HEADERS.functions.values() if each.section == section]
+
+
+NAVIGATION = [each.name for each in functions_of("Building and navigating")]
 BOARD_COUNTS = ("GetContentRows", "GetContentColumns", "GetWeekNumberCount")
-GETTERS = (
-    "GetDispMonth",
-    "GetMaxRow",
-    "GetPassedWeeks",
-    "GetStartDayOfWeek",
-    "GetStartWeekNumber",
-    "GetHideBreakDay",
-    "GetShowMonthInterval",
-    "GetShowBreakDayOfWeek",
-    "GetPrintBoard",
-    "GetWeekNumberCalcType",
-    "GetCivilDays",
-    "GetConfigKey",
-)
+BOARD_GETTERS = [
+    each.name
+    for each in functions_of("Reading the board")
+    if not each.parameters and each.name not in BOARD_COUNTS
+]
+OPTION_GETTERS = [
+    each.name
+    for each in functions_of("Options") + functions_of("Kept answers and output")
+    if not each.parameters and each.result != "void"
+]
 
 
 def option_queries():
     """Everything that can be asked about the options."""
-    yield from ((name,) for name in GETTERS)
+    yield from ((name,) for name in OPTION_GETTERS)
     yield from (("IsBreakDayOfWeek", day) for day in range(-2, 9))
 
 
@@ -261,9 +254,7 @@ def board_queries(rows, columns, spans):
         yield ("GetCalendarWeekByColumns", index)
     yield from (("GetCalendarWeekByColumns", column) for column in range(-2, 9))
     yield from (("GetWeekNumberItemWithIndex", index) for index in range(-1, spans + 2))
-    yield ("GetContentDate",)
-    yield ("GetToday",)
-    yield ("IsTodayInBoard",)
+    yield from ((name,) for name in BOARD_GETTERS)
 
 
 def run_steps(task, recorder):
