@@ -3,13 +3,13 @@
 // soak [seconds]: sessions of random calls, each twice on one engine. Fails if the second one needs
 // memory: what the first has asked is kept, and nothing else may be.
 #include <almara/almara.h>
-#include <malloc.h>
 
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <new>
 #include <random>
 #include <vector>
@@ -21,25 +21,35 @@
 
 namespace {
 
+// What the program has asked for and not given back.
 std::size_t g_bytesInUse = 0;
+
+// Room in front of each block for its size.
+constexpr std::size_t kPrefix = alignof(std::max_align_t);
 
 }  // namespace
 
 void* operator new(std::size_t size) {
-  void* const block = std::malloc(size);
+  void* const block = std::malloc(size + kPrefix);
   if (block == nullptr) {
     throw std::bad_alloc();
   }
-  g_bytesInUse += malloc_usable_size(block);
-  return block;
+  std::memcpy(block, &size, sizeof size);
+  g_bytesInUse += size;
+  return static_cast<char*>(block) + kPrefix;
 }
 
-void operator delete(void* block) noexcept {
-  g_bytesInUse -= malloc_usable_size(block);
-  std::free(block);
+void operator delete(void* pointer) noexcept {
+  if (pointer != nullptr) {
+    void* const block = static_cast<char*>(pointer) - kPrefix;
+    std::size_t size = 0;
+    std::memcpy(&size, block, sizeof size);
+    g_bytesInUse -= size;
+    std::free(block);
+  }
 }
 
-void operator delete(void* block, std::size_t) noexcept { operator delete(block); }
+void operator delete(void* pointer, std::size_t) noexcept { operator delete(pointer); }
 
 namespace almara::test {
 

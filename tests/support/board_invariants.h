@@ -103,8 +103,20 @@ inline const char* BrokenCell(const tagCalendarCell& cell) {
              : "a day has its day of the week";
 }
 
+// Days are counted from the focus date in seconds of 32 bits, which wrap here.
+constexpr int kReachInDays = 24855;
+
+inline bool IsWithinReach(const tagCalendarCell& day, const CCalendarSolarDate& focus) {
+  const int days = DayNumber(day) - DayNumber(Civil{focus.year, focus.month, focus.day});
+  return days > -kReachInDays && days < kReachInDays;
+}
+
 // From one day shown to the next, places are passed as days go by; month intervals take whole rows.
-inline const char* BrokenRun(const tagCalendarCell& before, const tagCalendarCell& day) {
+inline const char* BrokenRun(const tagCalendarCell& before, const tagCalendarCell& day,
+                             const CCalendarSolarDate& focus) {
+  if (!IsWithinReach(before, focus) || !IsWithinReach(day, focus)) {
+    return nullptr;
+  }
   const int places = kDaysInRow * (day.row - before.row) + day.column - before.column;
   const int days = DayNumber(day) - DayNumber(before);
   const bool oneAfterTheOther =
@@ -137,7 +149,7 @@ inline const char* FirstBroken(const ShownBoard& board) {
       const char* broken = BrokenPlace(board, row, column);
       broken = broken != nullptr ? broken : BrokenCell(cell);
       if (broken == nullptr && IsDay(cell)) {
-        broken = dayBefore != nullptr ? BrokenRun(*dayBefore, cell) : nullptr;
+        broken = dayBefore != nullptr ? BrokenRun(*dayBefore, cell, board.focus) : nullptr;
         dayBefore = &cell;
       }
       if (broken != nullptr) {
