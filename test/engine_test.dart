@@ -124,6 +124,10 @@ void main() {
         engine.annotate(const CalendarDate(2024, 3, 24)).solarFestival,
         isNull,
       );
+      expect(
+        engine.annotate(const CalendarDate(2024, 0x7fffffff, 1)).solarFestival,
+        isNull,
+      );
     });
 
     test('tells the version of the library', () {

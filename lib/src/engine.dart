@@ -185,7 +185,10 @@ class AlmaraEngine {
     if (region != Region.usa ||
         date.year < 1900 ||
         date.year > 2099 ||
-        !date.exists ||
+        date.month < 3 ||
+        date.month > 4 ||
+        date.day < 1 ||
+        date.day > 31 ||
         date.weekday != Weekday.sunday) {
       return false;
     }
