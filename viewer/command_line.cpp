@@ -527,7 +527,7 @@ Options Configured(const Options& defaults) {
 
 Options ParseCommandLine(int argc, const char* const* argv, const Options& defaults) {
   bool readsConfiguration = true;
-  const Options options = ParseArguments(argc, argv, defaults, readsConfiguration);
+  Options options = ParseArguments(argc, argv, defaults, readsConfiguration);
   if (options.task == Task::kPrintText || !readsConfiguration) {
     return options;
   }

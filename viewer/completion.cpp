@@ -57,13 +57,13 @@ std::string BashScript(const std::vector<OptionEntry>& options,
 }
 
 std::string ZshOption(const OptionEntry& option) {
-  const std::string help = "[" + Escaped(option.help, "[]\\") + "]";
-  const std::string value = option.placeholder.empty() ? ""
-                                                       : ":" + Escaped(option.placeholder, ":") +
-                                                             ":(" + Joined(option.words, " ") + ")";
+  std::string rest = "[" + Escaped(option.help, "[]\\") + "]";
+  if (!option.placeholder.empty()) {
+    rest += ":" + Escaped(option.placeholder, ":") + ":(" + Joined(option.words, " ") + ")";
+  }
   std::string lines;
   for (const std::string& name : option.names) {
-    lines += "  " + Quoted(name + help + value) + " \\\n";
+    lines.append("  ").append(Quoted(name + rest)).append(" \\\n");
   }
   return lines;
 }

@@ -42,6 +42,8 @@ ECalendarWeek FirstDayOfLocale() {
     return eCalendarWeekMonday;
   }
   constexpr std::uintptr_t kSunday = 19971130;
+  // This one item is a number in the place of the text.
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
   const auto listBegin = reinterpret_cast<std::uintptr_t>(nl_langinfo(_NL_TIME_WEEK_1STDAY));
   const int place = *nl_langinfo(_NL_TIME_FIRST_WEEKDAY) - 1;
   return (place + (listBegin == kSunday ? 0 : 1)) % 7;

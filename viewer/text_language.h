@@ -14,9 +14,12 @@ enum class TextLanguage {
   kKorean,
   kJapanese,
   kVietnamese,
+  kGerman,
+  kRussian,
+  kThai,  // the last one
 };
 
-// English for a region without texts of its own.
+// English for the regions where it is spoken.
 constexpr TextLanguage TextLanguageOf(ELanguage region) {
   switch (region) {
     case eLanguageChs:
@@ -29,6 +32,12 @@ constexpr TextLanguage TextLanguageOf(ELanguage region) {
       return TextLanguage::kJapanese;
     case eLanguageVit:
       return TextLanguage::kVietnamese;
+    case eLanguageDeu:
+      return TextLanguage::kGerman;
+    case eLanguageRus:
+      return TextLanguage::kRussian;
+    case eLanguageTha:
+      return TextLanguage::kThai;
     default:
       return TextLanguage::kEnglish;
   }

@@ -20,6 +20,12 @@ Texts TextsIn(TextLanguage language) {
       return TextsJapanese();
     case TextLanguage::kVietnamese:
       return TextsVietnamese();
+    case TextLanguage::kGerman:
+      return TextsGerman();
+    case TextLanguage::kRussian:
+      return TextsRussian();
+    case TextLanguage::kThai:
+      return TextsThai();
     case TextLanguage::kEnglish:
       break;
   }
@@ -56,10 +62,11 @@ const char* ShortMonth(const Texts& texts, int month) {
 }
 
 std::string FullDateText(const Texts& texts, CivilDate date) {
+  const auto month = static_cast<std::size_t>(date.month - 1);
   return FillPattern(texts.fullDate,
                      {{'y', std::to_string(date.year)},
                       {'m', std::to_string(date.month)},
-                      {'M', Month(texts, date.month)},
+                      {'M', texts.monthsInDates[month]},
                       {'d', std::to_string(date.day)},
                       {'w', texts.longWeekdays[static_cast<std::size_t>(DayOfWeek(date))]}});
 }

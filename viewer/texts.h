@@ -6,12 +6,15 @@
 #include <almara/almara_types.h>
 
 #include <array>
+#include <cstddef>
 #include <string>
 
 #include "civil_date.h"
 #include "text_language.h"
 
 namespace almara::viewer {
+
+constexpr std::size_t kHelpLines = 15;
 
 // One language's words. In the patterns {y} stands for the year, {m} for the number of the month,
 // {M} for its name, {S} for its short name, {d} for the day and {w} for the day of the week; {n}
@@ -24,6 +27,7 @@ struct Texts {
   std::array<const char*, 7> narrowWeekdays{};  // at most two cells each
   std::array<const char*, 7> longWeekdays{};
   std::array<const char*, 12> months{};
+  std::array<const char*, 12> monthsInDates{};  // as they stand in fullDate
   std::array<const char*, 12> shortMonths{};
 
   const char* fullDate = nullptr;          // {y} {m} {M} {d} {w}
@@ -58,6 +62,21 @@ struct Texts {
   const char* yesterday = nullptr;
   const char* inDays = nullptr;   // {c}
   const char* daysAgo = nullptr;  // {c}
+
+  // Of the full screen.
+  const char* hint = nullptr;  // "? help  q quit", with these keys
+  const char* goTo = nullptr;  // before what the user types
+  const char* notADate = nullptr;
+  const char* arrangement = nullptr;  // {a}, the word for it on the command line
+  const char* firstDay = nullptr;     // {w}
+  const char* rows = nullptr;         // {c}
+  const char* rowsNotHere = nullptr;
+  const char* calendarBegins = nullptr;
+  const char* calendarEnds = nullptr;
+  const char* clockOutside = nullptr;
+  const char* arrowKeys = nullptr;
+  const char* mouse = nullptr;
+  std::array<const char*, kHelpLines> help{};  // what the keys do, in the order of the help
 };
 
 // Each in a file of its own under languages/, label by label.
@@ -67,6 +86,9 @@ Texts TextsChineseTraditional();
 Texts TextsKorean();
 Texts TextsJapanese();
 Texts TextsVietnamese();
+Texts TextsGerman();
+Texts TextsRussian();
+Texts TextsThai();
 
 // English where the terminal cannot show the region's own language.
 Texts TextsFor(ELanguage region, bool utf8);

@@ -23,23 +23,23 @@ namespace {
 
 constexpr int kWaitMs = 1000;  // how long a new day or a signal may go unnoticed
 
-constexpr const char* kHelp[] = {
-    "arrows, h j k l   move over the days",
-    "PageUp, PageDown  page backward, forward; also p, n and Space",
-    "Home, End         first, last day of the month",
-    "<  >              a year back, forward",
-    "t                 today",
-    "g                 go to a date",
-    "m                 next arrangement: rolling, tail, month, strip",
-    "+  -              a row more, less",
-    "f                 next first day of the week",
-    "w                 week numbers on, off",
-    "b                 break days on, off",
-    "i                 month intervals on, off",
-    "mouse             click a day; the wheel pages",
-    "?                 this help, which any key leaves",
-    "q                 quit",
-};
+// The keys in the order in which Texts::help tells what they do; {a} is the language's word for the
+// arrow keys, {m} for the mouse.
+constexpr const char* kHelpKeys[kHelpLines] = {"{a}, h j k l",
+                                               "PageUp p, PageDown n",
+                                               "Home, End",
+                                               "<  >",
+                                               "t",
+                                               "g",
+                                               "m",
+                                               "+  -",
+                                               "f",
+                                               "w",
+                                               "b",
+                                               "i",
+                                               "{m}",
+                                               "?",
+                                               "q"};
 
 class Tui {
  public:
@@ -73,18 +73,25 @@ class Tui {
 
   Line StatusLine() const {
     if (m_prompt) {
-      return {{"Go to (YYYY-MM-DD): " + *m_prompt + "_  "}, {m_message}};
+      return {{m_texts.goTo + *m_prompt + "_  "}, {m_message}};
     }
     if (!m_message.empty()) {
       return {{m_message}};
     }
-    return {{"? help  q quit", Role::kHint}};
+    return {{m_texts.hint, Role::kHint}};
   }
 
-  static std::vector<Line> HelpLines() {
+  std::vector<Line> HelpLines() const {
+    std::vector<std::string> keys;
+    int width = 0;
+    for (const char* pattern : kHelpKeys) {
+      keys.push_back(FillPattern(pattern, {{'a', m_texts.arrowKeys}, {'m', m_texts.mouse}}));
+      width = std::max(width, DisplayWidth(keys.back()));
+    }
     std::vector<Line> lines;
-    for (const char* text : kHelp) {
-      lines.push_back({{text}});
+    for (std::size_t index = 0; index < kHelpLines; ++index) {
+      const Line line = {{Fit(keys[index], width, "") + "  "}, {m_texts.help[index]}};
+      Append(lines, Wrapped(line, m_screen.Width(), kIndent));
     }
     return lines;
   }
@@ -139,12 +146,14 @@ class Tui {
 
   std::vector<Line> DetailLines() {
     const Annotation annotation = m_annotator.Annotate(m_navigator.Selected());
-    Line lunar = {{std::string(m_texts.lunarDateLabel) + "  ", Role::kHint},
-                  {LunarDateText(m_texts, annotation.lunar)}};
-    return {{},
-            {{FullDateText(m_texts, m_navigator.Selected()), Role::kTitle}},
-            lunar,
-            NamesLine(annotation, m_texts.language)};
+    const Line lunar = {{std::string(m_texts.lunarDateLabel) + "  ", Role::kHint},
+                        {LunarDateText(m_texts, annotation.lunar)}};
+    std::vector<Line> lines = {{}};
+    for (const Line& line : {Line{{FullDateText(m_texts, m_navigator.Selected()), Role::kTitle}},
+                             lunar, NamesLine(annotation, m_texts.language)}) {
+      Append(lines, Wrapped(line, m_screen.Width(), kIndent));
+    }
+    return lines;
   }
 
   std::vector<Line> LegendIfFitting(int room) {
@@ -241,31 +250,34 @@ class Tui {
 
   void Today() {
     if (!m_navigator.GoToToday()) {
-      m_message = "The clock stands outside the years 1900 to 2099";
+      m_message = m_texts.clockOutside;
     }
   }
 
   void NextMode() {
     m_navigator.NextMode();
-    m_message = std::string("Arrangement: ") + WordFor(kModeWords, m_navigator.Options().mode);
+    const char* mode = WordFor(kModeWords, m_navigator.Options().mode);
+    m_message = FillPattern(m_texts.arrangement, {{'a', mode}});
   }
 
   void NextFirstDay() {
     m_navigator.NextFirstDay();
-    m_message = std::string("First day: ") + Weekday(m_texts, m_navigator.Options().firstDay);
+    const char* day = Weekday(m_texts, m_navigator.Options().firstDay);
+    m_message = FillPattern(m_texts.firstDay, {{'w', day}});
   }
 
   void ChangeRows(int difference) {
     if (m_navigator.ChangeRows(difference)) {
-      m_message = "Rows: " + std::to_string(m_navigator.Options().rows);
+      const std::string rows = std::to_string(m_navigator.Options().rows);
+      m_message = FillPattern(m_texts.rows, {{'c', rows}});
     } else if (!HasRows(m_navigator.Options().mode)) {
-      m_message = "Rows are for the arrangements rolling and tail";
+      m_message = m_texts.rowsNotHere;
     }
   }
 
   void Page(int direction) {
     if (!m_navigator.Page(direction)) {
-      m_message = direction > 0 ? "The calendar ends with 2099" : "The calendar begins with 1900";
+      m_message = direction > 0 ? m_texts.calendarEnds : m_texts.calendarBegins;
     }
   }
 
@@ -304,7 +316,7 @@ class Tui {
     if (parsed.date || m_prompt->empty()) {
       m_prompt.reset();
     } else {
-      m_message = parsed.problem;
+      m_message = m_texts.notADate;
     }
   }
 
@@ -347,6 +359,7 @@ class Tui {
   };
 
   static constexpr int kStatusLines = 1;
+  static constexpr int kIndent = 4;  // of the second line of a text
   static constexpr std::size_t kLongestDate = 10;
 
   Navigator m_navigator;

@@ -40,7 +40,7 @@ class FullScreen(unittest.TestCase):
     def shell_environment():
         return {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "SHELL": "/bin/sh"}
 
-    def start(self, *arguments, width=80, height=24, variables=None):
+    def start(self, *arguments, width=80, height=24, variables=None, shows="? help"):
         """Runs the board in a shell that shows what it finds afterwards."""
         settings = environment(TERM="screen-256color", **(variables or {}))
         assignments = [f"{name}={value}" for name, value in settings.items()]
@@ -49,7 +49,7 @@ class FullScreen(unittest.TestCase):
                   'echo done; exec cat')
         self.tmux("-u", "new-session", "-d", "-x", str(width), "-y", str(height),
                   "sh", "-c", script, "sh", "env", *assignments, BOARD, "--tui", *arguments)
-        self.wait_for("? help")
+        self.wait_for(shows)
 
     def screen(self):
         return self.tmux("capture-pane", "-p").rstrip("\n")
@@ -135,12 +135,23 @@ class FullScreen(unittest.TestCase):
             self.mouse(*event)
             self.wait_for(shows)
 
+    def test_every_language_has_its_footer_and_its_help(self):
+        for language, footer, last in [
+                ("chs", "? 帮助  q 退出", "退出"), ("cht", "? 說明  q 離開", "離開"),
+                ("kor", "? 도움말  q 종료", "종료"), ("jpn", "? ヘルプ  q 終了", "終了"),
+                ("vit", "? trợ giúp  q thoát", "thoát"), ("deu", "? Hilfe  q Ende", "Ende"),
+                ("rus", "? справка  q выход", "выход"), ("tha", "? วิธีใช้  q ออก", "ออก")]:
+            self.start("--language", language, shows=footer)
+            self.press("?", shows=("PageUp p, PageDown n", f"\nq{' ' * 21}{last}\n"))
+            self.tearDown()
+            self.setUp()
+
     def test_going_to_a_date(self):
         self.start("--language", "eng")
         self.press("g", shows="Go to (YYYY-MM-DD):")
         # A text that is no date stays and can be corrected.
         self.press("2025-02-30", "Enter",
-                   shows="2025-02-30_  2025-02-30 is not a day of the calendar")
+                   shows="2025-02-30_  not a day from 1900-01-01 to 2099-12-31")
         self.press("BSpace", "BSpace", "20", shows="2025-02-20_")
         self.press("BSpace", "1", "Enter", shows="Friday, 21 February 2025")
         self.press("g", "19", "C-u", shows="Go to (YYYY-MM-DD): _")
@@ -192,7 +203,7 @@ class FullScreen(unittest.TestCase):
             if height > 1:  # one cell shows nothing
                 # The help and back, drawn at that size.
                 help_line, status = ((line[:width].rstrip() for line in
-                                      ("arrows, h j k l   move over the days", "? help  q quit")))
+                                      ("arrows, h j k l       move over the days", "? help  q quit")))
                 self.press("?", shows=(help_line, status))
                 self.press("x", shows=status)
         self.wait_for("Tuesday, 12 March 2024")

@@ -21,8 +21,9 @@ std::vector<const char*> AllTexts(const Texts& texts) {
 TEST(Texts, NoLanguageLacksAnEntry) {
   constexpr std::size_t kLunarNames = offsetof(Texts, lunarMonths) / sizeof(const char*) - 1;
   constexpr std::size_t kEndOfLunarNames = kLunarNames + 12 + 30;
-  for (const Texts& texts : {TextsEnglish(), TextsChineseSimplified(), TextsChineseTraditional(),
-                             TextsKorean(), TextsJapanese(), TextsVietnamese()}) {
+  for (const Texts& texts :
+       {TextsEnglish(), TextsChineseSimplified(), TextsChineseTraditional(), TextsKorean(),
+        TextsJapanese(), TextsVietnamese(), TextsGerman(), TextsRussian(), TextsThai()}) {
     const std::vector<const char*> all = AllTexts(texts);
     const bool namesLunarDays = texts.lunarMonths[0] != nullptr;
     for (std::size_t index = 0; index < all.size(); ++index) {

@@ -11,6 +11,7 @@ Texts TextsChineseSimplified() {
   texts.longWeekdays = {"星期日", "星期一", "星期二", "星期三", "星期四", "星期五", "星期六"};
   texts.months = {"一月", "二月", "三月", "四月", "五月",   "六月",
                   "七月", "八月", "九月", "十月", "十一月", "十二月"};
+  texts.monthsInDates = texts.months;
   texts.shortMonths = {"1月", "2月", "3月", "4月",  "5月",  "6月",
                        "7月", "8月", "9月", "10月", "11月", "12月"};
 
@@ -50,6 +51,36 @@ Texts TextsChineseSimplified() {
   texts.yesterday = "昨天";
   texts.inDays = "{c}天后";
   texts.daysAgo = "{c}天前";
+
+  texts.hint = "? 帮助  q 退出";
+  texts.goTo = "转到 (YYYY-MM-DD)：";
+  texts.notADate = "不是 1900-01-01 至 2099-12-31 之间的日期";
+  texts.arrangement = "排列：{a}";
+  texts.firstDay = "每周第一天：{w}";
+  texts.rows = "行数：{c}";
+  texts.rowsNotHere = "行数只用于 rolling 和 tail 排列";
+  texts.calendarBegins = "日历从 1900 年开始";
+  texts.calendarEnds = "日历到 2099 年为止";
+  texts.clockOutside = "系统时间不在 1900 至 2099 年之间";
+  texts.arrowKeys = "方向键";
+  texts.mouse = "鼠标";
+  texts.help = {
+      "在日期间移动",
+      "上一页、下一页",
+      "本月第一天、最后一天",
+      "前一年、后一年",
+      "今天",
+      "转到某日",
+      "下一种排列：rolling、tail、month、strip",
+      "增加、减少一行",
+      "换每周第一天",
+      "显示或隐藏周数",
+      "显示或隐藏休息日",
+      "显示或隐藏月份分隔",
+      "点击选择日期，滚轮翻页",
+      "本帮助，按任意键离开",
+      "退出",
+  };
   return texts;
 }
 

@@ -11,6 +11,7 @@ Texts TextsChineseTraditional() {
   texts.longWeekdays = {"星期日", "星期一", "星期二", "星期三", "星期四", "星期五", "星期六"};
   texts.months = {"一月", "二月", "三月", "四月", "五月",   "六月",
                   "七月", "八月", "九月", "十月", "十一月", "十二月"};
+  texts.monthsInDates = texts.months;
   texts.shortMonths = {"1月", "2月", "3月", "4月",  "5月",  "6月",
                        "7月", "8月", "9月", "10月", "11月", "12月"};
 
@@ -50,6 +51,36 @@ Texts TextsChineseTraditional() {
   texts.yesterday = "昨天";
   texts.inDays = "{c}天後";
   texts.daysAgo = "{c}天前";
+
+  texts.hint = "? 說明  q 離開";
+  texts.goTo = "前往 (YYYY-MM-DD)：";
+  texts.notADate = "不是 1900-01-01 至 2099-12-31 之間的日期";
+  texts.arrangement = "排列：{a}";
+  texts.firstDay = "每週第一天：{w}";
+  texts.rows = "列數：{c}";
+  texts.rowsNotHere = "列數只用於 rolling 和 tail 排列";
+  texts.calendarBegins = "日曆從 1900 年開始";
+  texts.calendarEnds = "日曆到 2099 年為止";
+  texts.clockOutside = "系統時間不在 1900 至 2099 年之間";
+  texts.arrowKeys = "方向鍵";
+  texts.mouse = "滑鼠";
+  texts.help = {
+      "在日期間移動",
+      "上一頁、下一頁",
+      "本月第一天、最後一天",
+      "前一年、後一年",
+      "今天",
+      "前往某日",
+      "下一種排列：rolling、tail、month、strip",
+      "增加、減少一列",
+      "換每週第一天",
+      "顯示或隱藏週數",
+      "顯示或隱藏休息日",
+      "顯示或隱藏月份分隔",
+      "點擊選擇日期，滾輪翻頁",
+      "本說明，按任意鍵離開",
+      "離開",
+  };
   return texts;
 }
 

@@ -12,6 +12,7 @@ Texts TextsEnglish() {
                         "Thursday", "Friday", "Saturday"};
   texts.months = {"January", "February", "March",     "April",   "May",      "June",
                   "July",    "August",   "September", "October", "November", "December"};
+  texts.monthsInDates = texts.months;
   texts.shortMonths = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                        "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 
@@ -45,6 +46,36 @@ Texts TextsEnglish() {
   texts.yesterday = "yesterday";
   texts.inDays = "in {c} days";
   texts.daysAgo = "{c} days ago";
+
+  texts.hint = "? help  q quit";
+  texts.goTo = "Go to (YYYY-MM-DD): ";
+  texts.notADate = "not a day from 1900-01-01 to 2099-12-31";
+  texts.arrangement = "Arrangement: {a}";
+  texts.firstDay = "First day: {w}";
+  texts.rows = "Rows: {c}";
+  texts.rowsNotHere = "Rows are for the arrangements rolling and tail";
+  texts.calendarBegins = "The calendar begins with 1900";
+  texts.calendarEnds = "The calendar ends with 2099";
+  texts.clockOutside = "The clock stands outside the years 1900 to 2099";
+  texts.arrowKeys = "arrows";
+  texts.mouse = "mouse";
+  texts.help = {
+      "move over the days",
+      "page backward, forward",
+      "first, last day of the month",
+      "a year back, forward",
+      "today",
+      "go to a date",
+      "next arrangement: rolling, tail, month, strip",
+      "a row more, less",
+      "next first day of the week",
+      "week numbers on, off",
+      "break days on, off",
+      "month intervals on, off",
+      "click a day; the wheel pages",
+      "this help, which any key leaves",
+      "quit",
+  };
   return texts;
 }
 

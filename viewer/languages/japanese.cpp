@@ -11,6 +11,7 @@ Texts TextsJapanese() {
   texts.longWeekdays = {"日曜日", "月曜日", "火曜日", "水曜日", "木曜日", "金曜日", "土曜日"};
   texts.months = {"1月", "2月", "3月", "4月",  "5月",  "6月",
                   "7月", "8月", "9月", "10月", "11月", "12月"};
+  texts.monthsInDates = texts.months;
   texts.shortMonths = {"1月", "2月", "3月", "4月",  "5月",  "6月",
                        "7月", "8月", "9月", "10月", "11月", "12月"};
 
@@ -44,6 +45,36 @@ Texts TextsJapanese() {
   texts.yesterday = "昨日";
   texts.inDays = "{c}日後";
   texts.daysAgo = "{c}日前";
+
+  texts.hint = "? ヘルプ  q 終了";
+  texts.goTo = "移動先 (YYYY-MM-DD): ";
+  texts.notADate = "1900-01-01 から 2099-12-31 までの日付ではありません";
+  texts.arrangement = "配列: {a}";
+  texts.firstDay = "週の始まり: {w}";
+  texts.rows = "行数: {c}";
+  texts.rowsNotHere = "行数は rolling と tail の配列だけで使います";
+  texts.calendarBegins = "カレンダーは1900年からです";
+  texts.calendarEnds = "カレンダーは2099年までです";
+  texts.clockOutside = "時計が1900年から2099年の範囲にありません";
+  texts.arrowKeys = "矢印";
+  texts.mouse = "マウス";
+  texts.help = {
+      "日付を移動",
+      "前、次のページ",
+      "月の初日、末日",
+      "前年、翌年",
+      "今日",
+      "日付へ移動",
+      "次の配列: rolling, tail, month, strip",
+      "行を増やす、減らす",
+      "週の始まりを変える",
+      "週番号の表示、非表示",
+      "休日の表示、非表示",
+      "月の区切りの表示、非表示",
+      "クリックで日付を選択、ホイールでページ移動",
+      "このヘルプ、どのキーでも閉じる",
+      "終了",
+  };
   return texts;
 }
 

@@ -11,6 +11,7 @@ Texts TextsKorean() {
   texts.longWeekdays = {"일요일", "월요일", "화요일", "수요일", "목요일", "금요일", "토요일"};
   texts.months = {"1월", "2월", "3월", "4월",  "5월",  "6월",
                   "7월", "8월", "9월", "10월", "11월", "12월"};
+  texts.monthsInDates = texts.months;
   texts.shortMonths = {"1월", "2월", "3월", "4월",  "5월",  "6월",
                        "7월", "8월", "9월", "10월", "11월", "12월"};
 
@@ -44,6 +45,36 @@ Texts TextsKorean() {
   texts.yesterday = "어제";
   texts.inDays = "{c}일 후";
   texts.daysAgo = "{c}일 전";
+
+  texts.hint = "? 도움말  q 종료";
+  texts.goTo = "이동 (YYYY-MM-DD): ";
+  texts.notADate = "1900-01-01부터 2099-12-31까지의 날짜가 아닙니다";
+  texts.arrangement = "배열: {a}";
+  texts.firstDay = "주 시작 요일: {w}";
+  texts.rows = "줄 수: {c}";
+  texts.rowsNotHere = "줄 수는 rolling과 tail 배열에만 쓰입니다";
+  texts.calendarBegins = "달력은 1900년부터입니다";
+  texts.calendarEnds = "달력은 2099년까지입니다";
+  texts.clockOutside = "시계가 1900년부터 2099년까지를 벗어났습니다";
+  texts.arrowKeys = "화살표";
+  texts.mouse = "마우스";
+  texts.help = {
+      "날짜 이동",
+      "이전, 다음 쪽",
+      "이달의 첫날, 마지막 날",
+      "1년 전, 후",
+      "오늘",
+      "날짜로 이동",
+      "다음 배열: rolling, tail, month, strip",
+      "한 줄 늘리기, 줄이기",
+      "주 시작 요일 바꾸기",
+      "주 번호 켜기, 끄기",
+      "쉬는 날 켜기, 끄기",
+      "달 구분선 켜기, 끄기",
+      "클릭으로 날짜 선택, 휠로 쪽 이동",
+      "도움말, 아무 키나 누르면 닫힘",
+      "종료",
+  };
   return texts;
 }
 

@@ -11,6 +11,7 @@ Texts TextsVietnamese() {
   texts.longWeekdays = {"Chủ Nhật", "Thứ Hai", "Thứ Ba", "Thứ Tư", "Thứ Năm", "Thứ Sáu", "Thứ Bảy"};
   texts.months = {"Tháng 1", "Tháng 2", "Tháng 3", "Tháng 4",  "Tháng 5",  "Tháng 6",
                   "Tháng 7", "Tháng 8", "Tháng 9", "Tháng 10", "Tháng 11", "Tháng 12"};
+  texts.monthsInDates = texts.months;
   texts.shortMonths = {"Th1", "Th2", "Th3", "Th4",  "Th5",  "Th6",
                        "Th7", "Th8", "Th9", "Th10", "Th11", "Th12"};
 
@@ -44,6 +45,36 @@ Texts TextsVietnamese() {
   texts.yesterday = "hôm qua";
   texts.inDays = "{c} ngày nữa";
   texts.daysAgo = "{c} ngày trước";
+
+  texts.hint = "? trợ giúp  q thoát";
+  texts.goTo = "Đến ngày (YYYY-MM-DD): ";
+  texts.notADate = "không phải là ngày từ 1900-01-01 đến 2099-12-31";
+  texts.arrangement = "Cách xếp: {a}";
+  texts.firstDay = "Ngày đầu tuần: {w}";
+  texts.rows = "Số hàng: {c}";
+  texts.rowsNotHere = "Số hàng chỉ dùng cho cách xếp rolling và tail";
+  texts.calendarBegins = "Lịch bắt đầu từ năm 1900";
+  texts.calendarEnds = "Lịch kết thúc ở năm 2099";
+  texts.clockOutside = "Đồng hồ nằm ngoài các năm 1900 đến 2099";
+  texts.arrowKeys = "mũi tên";
+  texts.mouse = "chuột";
+  texts.help = {
+      "di chuyển giữa các ngày",
+      "trang trước, trang sau",
+      "ngày đầu, ngày cuối tháng",
+      "lùi, tiến một năm",
+      "hôm nay",
+      "đến một ngày",
+      "cách xếp kế tiếp: rolling, tail, month, strip",
+      "thêm, bớt một hàng",
+      "đổi ngày đầu tuần",
+      "bật, tắt số tuần",
+      "bật, tắt ngày nghỉ",
+      "bật, tắt dải tên tháng",
+      "nhấp để chọn ngày; con lăn để lật trang",
+      "trợ giúp này, phím bất kỳ để đóng",
+      "thoát",
+  };
   return texts;
 }
 
