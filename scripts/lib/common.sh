@@ -29,11 +29,11 @@ begin() {
 STEP=starting
 trap '(($? == 0)) || say "FAILED: $STEP"' EXIT
 
-# show_help: the comment at the head of the script.
+# show_help <status>: prints the comment at the head of the script and exits.
 show_help() {
   trap - EXIT
   sed -n '4,/^[^#]*$/s/^#\( \|$\)//p' "$0"
-  exit "${1-0}"
+  exit "$1"
 }
 
 # wrong_usage <what>: an argument that the script does not know.
@@ -43,7 +43,7 @@ wrong_usage() {
   exit 2
 }
 
-case ${1-} in -h | --help) show_help ;; esac
+case ${1-} in -h | --help) show_help 0 ;; esac
 
 # Under sudo only the packages need root; what is built belongs to the owner of the checkout.
 if ((EUID == 0)) && [[ ${SUDO_UID-0} != 0 && $(stat -c %u "$ROOT") == "$SUDO_UID" ]]; then
