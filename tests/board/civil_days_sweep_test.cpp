@@ -49,6 +49,7 @@ std::vector<std::string> Zones() {
     }
   }
   std::vector<std::string> names;
+  names.reserve(nameByContent.size());
   for (const auto& [content, name] : nameByContent) {
     names.push_back(name);
   }
