@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "styled_text.h"
 
-#include <algorithm>
-
 #include "text_layout.h"
 
 namespace almara::viewer {
@@ -28,7 +26,7 @@ class Wrapper {
       Put(word, like);
       return;
     }
-    if (m_used > m_indent) {
+    if (!m_fresh) {
       Break();
     }
     if (word.front() != ' ') {
@@ -57,17 +55,20 @@ class Wrapper {
     piece.text = text;
     m_lines.back().push_back(piece);
     m_used += DisplayWidth(text);
+    m_fresh = false;
   }
 
   void Break() {
     m_lines.push_back({{Repeat(" ", m_indent)}});
     m_used = m_indent;
+    m_fresh = true;
   }
 
   std::vector<Line> m_lines = {{}};
   int m_width;
   int m_indent;
   int m_used = 0;
+  bool m_fresh = true;  // nothing but the indent is on the last line
 };
 
 }  // namespace

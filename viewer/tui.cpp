@@ -158,8 +158,10 @@ class Tui {
 
   std::vector<Line> LegendIfFitting(int room) {
     std::vector<Line> legend = {{}};
-    Append(legend, LegendLines(NamedDays(ShownDays(m_navigator.Board()), m_annotator), m_texts,
-                               m_screen.Width()));
+    for (const Line& line : LegendLines(NamedDays(ShownDays(m_navigator.Board()), m_annotator),
+                                        m_texts, m_screen.Width())) {
+      Append(legend, Wrapped(line, m_screen.Width(), kIndent));
+    }
     return static_cast<int>(legend.size()) <= room ? legend : std::vector<Line>{};
   }
 

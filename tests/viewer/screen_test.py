@@ -210,6 +210,12 @@ class FullScreen(unittest.TestCase):
         self.keys("q")
         self.leaves_clean(0)
 
+    def test_a_narrow_window_shows_texts_in_full(self):
+        self.start("--language", "deu", width=20, height=40, shows="? Hilfe")
+        self.wait_for("Mo Di Mi Do Fr Sa So\n", "11[12]13 14 15 16·17\n",
+                      "Dienstag, 12. März\n    2024\n", "Frauentag\n")
+        self.press("?", shows="\nt\n    heute\n")
+
     def test_a_small_window_keeps_the_selected_row(self):
         self.start("--language", "eng", height=6)
         self.press("j", shows=" 19 ")
