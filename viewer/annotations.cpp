@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <tuple>
 
 #include "names.h"
 #include "text_layout.h"
@@ -28,6 +29,12 @@ PatternValues LunarValues(const Texts& texts, const CCalendarLunarDate& lunar) {
 }
 
 }  // namespace
+
+bool Annotation::DiffersFrom(const Annotation& other) const {
+  return std::tie(lunar.year, lunar.month, lunar.day, lunar.leap, solarTerm, lunarFestival) !=
+         std::tie(other.lunar.year, other.lunar.month, other.lunar.day, other.lunar.leap,
+                  other.solarTerm, other.lunarFestival);
+}
 
 Annotation Annotator::AnnotateBy(LunarSource source, CivilDate date) {
   if (m_region == eLanguageUsa) {

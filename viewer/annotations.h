@@ -22,11 +22,18 @@ enum class LunarSource { kAlmanac, kEngine };
 constexpr Word<LunarSource> kLunarSourceWords[] = {{"almanac", LunarSource::kAlmanac},
                                                    {"engine", LunarSource::kEngine}};
 
+constexpr LunarSource OtherSource(LunarSource source) {
+  return source == LunarSource::kAlmanac ? LunarSource::kEngine : LunarSource::kAlmanac;
+}
+
 struct Annotation {
   CCalendarLunarDate lunar{};
   ESolarKyureki24 solarTerm = eSekkiNone;
   EFestivalLunar lunarFestival = eFestivalLunarNone;
   EFestivalSolar solarFestival = eFestivalSolarNone;
+
+  // Whether lunar date, solar term or lunar festival are not those of the other.
+  bool DiffersFrom(const Annotation& other) const;
 
   bool HasFestival() const {
     return lunarFestival != eFestivalLunarNone || solarFestival != eFestivalSolarNone;
@@ -44,9 +51,12 @@ class Annotator {
   EAlmanacCalendar Calendar() const { return m_calendar; }
 
   Annotation Annotate(CivilDate date) { return AnnotateBy(m_source, date); }
-  Annotation AnnotateBy(LunarSource source, CivilDate date);
+
+  // The same day by the other source.
+  Annotation AnnotateByOther(CivilDate date) { return AnnotateBy(OtherSource(m_source), date); }
 
  private:
+  Annotation AnnotateBy(LunarSource source, CivilDate date);
   void FindEaster(int year);
 
   ELanguage m_region;

@@ -45,7 +45,7 @@ std::vector<ECalendarWeek> BreakDays(const BoardOptions& options) {
   return days;
 }
 
-Json OptionsJson(const BoardSnapshot& board) {
+Json OptionsJson(const BoardSnapshot& board, LunarSource source) {
   const BoardOptions& options = board.options;
   return {{"mode", WordFor(kModeWords, options.mode)},
           {"dispMonth", options.mode},
@@ -63,6 +63,7 @@ Json OptionsJson(const BoardSnapshot& board) {
           {"breakDayNames", DayNamesJson(BreakDays(options))},
           {"region", WordFor(kLanguageWords, options.language)},
           {"language", options.language},
+          {"lunarSource", WordFor(kLunarSourceWords, source)},
           {"configKey", board.configKey}};
 }
 
@@ -139,13 +140,37 @@ Json CivilDateJson(CivilDate date) {
   return DateJson({date.year, date.month, date.day, DayOfWeek(date)});
 }
 
+Json InstantJson(const std::optional<AlmanacInstant>& instant) {
+  if (!instant) {
+    return {};
+  }
+  Json json = DateJson({instant->year, instant->month, instant->day, instant->dayOfWeek});
+  json["hour"] = instant->hour;
+  json["minute"] = instant->minute;
+  json["second"] = instant->second;
+  json["offset"] = instant->offset;
+  json["uncertainty"] = instant->uncertainty;
+  json["certain"] = instant->certain != 0;
+  return json;
+}
+
+void AddInstants(Json& json, const DayReport& report) {
+  const DayInstants& instants = report.instants;
+  const bool almanac = report.source == LunarSource::kAlmanac;
+  json["lunarSource"] = WordFor(kLunarSourceWords, report.source);
+  json["newMoon"] = InstantJson(instants.newMoon);
+  json["solarTermInstant"] = InstantJson(instants.term);
+  json["lunarCertain"] = almanac ? Json(!instants.doubtfulMoon) : Json();
+  json["solarTermCertain"] = almanac ? Json(!instants.doubtfulTerm) : Json();
+}
+
 std::string Print(const Json& json, bool ascii) { return json.dump(2, ' ', ascii) + "\n"; }
 
 }  // namespace
 
 std::string BoardJson(const BoardSnapshot& board, Annotator& annotator, bool ascii) {
   return Print({{"version", kVersion},
-                {"options", OptionsJson(board)},
+                {"options", OptionsJson(board, annotator.Source())},
                 {"contentDate", DateJson(board.contentDate)},
                 {"today", DateJson(board.today)},
                 {"todayInBoard", board.todayOnBoard},
@@ -169,6 +194,10 @@ std::string DayJson(const DayReport& report, ELanguage region, bool ascii) {
                {"dayOfYear", DayOfYear(report.date)},
                {"daysInYear", DaysInYear(report.date.year)}};
   AddAnnotation(json, report.annotation, region);
+  AddInstants(json, report);
+  json["otherSource"] = {{"source", WordFor(kLunarSourceWords, OtherSource(report.source))},
+                         {"differs", report.other.DiffersFrom(report.annotation)}};
+  AddAnnotation(json["otherSource"], report.other, region);
   return Print(json, ascii);
 }
 

@@ -2,8 +2,8 @@
 #include "listing.h"
 
 #include <algorithm>
-#include <utility>
 
+#include "names.h"
 #include "text_layout.h"
 
 namespace almara::viewer {
@@ -31,6 +31,71 @@ Line DayOfYearEntry(const NamedDay& day, const std::string& fromToday, int fromT
                 {Fit(fromToday, fromTodayWidth, "") + "  ", Role::kHint}};
   Append(entry, NamesLine(day.annotation, texts.language));
   return entry;
+}
+
+struct LabelledLine {
+  const char* label;
+  Line value;
+};
+
+// The values under each other, a dash where there is none.
+std::vector<Line> LabelledLines(const std::vector<LabelledLine>& rows) {
+  int labelWidth = 0;
+  for (const auto& [label, value] : rows) {
+    labelWidth = std::max(labelWidth, DisplayWidth(label));
+  }
+  std::vector<Line> lines;
+  for (const auto& [label, value] : rows) {
+    Line line = {{"  " + Fit(label, labelWidth, "") + "  ", Role::kHint}};
+    Append(line, value.empty() ? Line{{"-"}} : value);
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+Line TermLine(const Annotation& annotation, TextLanguage language) {
+  Annotation term;
+  term.solarTerm = annotation.solarTerm;
+  return NamesLine(term, language);
+}
+
+Line FestivalsLine(const Annotation& annotation, TextLanguage language) {
+  Annotation festivals = annotation;
+  festivals.solarTerm = eSekkiNone;
+  return NamesLine(festivals, language);
+}
+
+Line DoubtsLine(const DayInstants& instants, const Texts& texts) {
+  Line line;
+  if (instants.doubtfulMoon) {
+    line.push_back({std::string(texts.newMoon) + " " + DoubtText(*instants.doubtfulMoon)});
+  }
+  if (instants.doubtfulTerm) {
+    line.push_back({(line.empty() ? "" : ", ") +
+                    SolarTermName(instants.doubtfulTerm->term, texts.language) + " " +
+                    DoubtText(instants.doubtfulTerm->instant)});
+  }
+  return line;
+}
+
+// What the other says otherwise.
+Line DifferenceLine(const Annotation& annotation, const Annotation& other, const Texts& texts) {
+  Line line;
+  const auto add = [&line](const char* label, const Line& value) {
+    line.push_back({(line.empty() ? "" : ", ") + std::string(label) + ": "});
+    Append(line, value.empty() ? Line{{"-"}} : value);
+  };
+  const std::string lunarDate = LunarDateText(texts, other.lunar);
+  if (lunarDate != LunarDateText(texts, annotation.lunar)) {
+    add(texts.lunarDateLabel, {{lunarDate}});
+  }
+  if (other.solarTerm != annotation.solarTerm) {
+    add(texts.solarTerm, TermLine(other, texts.language));
+  }
+  if (other.lunarFestival != annotation.lunarFestival) {
+    add(texts.festivals, FestivalsLine(other, texts.language));
+  }
+  return line;
 }
 
 }  // namespace
@@ -119,30 +184,30 @@ std::vector<Line> YearLines(int year, CivilDate today, const std::vector<NamedDa
 }
 
 std::vector<Line> DayLines(const DayReport& report, const Texts& texts) {
-  Annotation terms;
-  terms.solarTerm = report.annotation.solarTerm;
-  Annotation festivals = report.annotation;
-  festivals.solarTerm = eSekkiNone;
-
-  const std::pair<const char*, Line> kRows[] = {
+  const DayInstants& instants = report.instants;
+  std::vector<LabelledLine> rows = {
       {texts.fromToday, {{FromTodayText(texts, report.DaysFromToday())}}},
       {texts.week, {{std::to_string(report.weekNumber)}}},
       {texts.dayOfYear, {{DayOfYearText(texts, report.date)}}},
-      {texts.lunarDateLabel, {{LunarDateText(texts, report.annotation.lunar)}}},
-      {texts.solarTerm, NamesLine(terms, texts.language)},
-      {texts.festivals, NamesLine(festivals, texts.language)},
-  };
-  int labelWidth = 0;
-  for (const auto& [label, value] : kRows) {
-    labelWidth = std::max(labelWidth, DisplayWidth(label));
+      {texts.lunarDateLabel, {{LunarDateText(texts, report.annotation.lunar)}}}};
+  if (instants.newMoon) {
+    rows.push_back({texts.newMoon, {{InstantText(*instants.newMoon)}}});
   }
-
+  rows.push_back({texts.solarTerm, TermLine(report.annotation, texts.language)});
+  if (instants.term) {
+    rows.back().value.push_back({", " + TimeText(*instants.term)});
+  }
+  rows.push_back({texts.festivals, FestivalsLine(report.annotation, texts.language)});
+  if (!instants.AreCertain()) {
+    rows.push_back({texts.notCertain, DoubtsLine(instants, texts)});
+  }
+  if (report.other.DiffersFrom(report.annotation)) {
+    const bool almanac = report.source == LunarSource::kAlmanac;
+    rows.push_back({almanac ? texts.byEngine : texts.byAlmanac,
+                    DifferenceLine(report.annotation, report.other, texts)});
+  }
   std::vector<Line> lines = {{{FullDateText(texts, report.date), Role::kTitle}}};
-  for (const auto& [label, value] : kRows) {
-    Line line = {{"  " + Fit(label, labelWidth, "") + "  ", Role::kHint}};
-    Append(line, value.empty() ? Line{{"-"}} : value);
-    lines.push_back(line);
-  }
+  Append(lines, LabelledLines(rows));
   return lines;
 }
 

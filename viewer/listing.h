@@ -7,6 +7,7 @@
 
 #include "annotations.h"
 #include "board_snapshot.h"
+#include "day_instants.h"
 #include "styled_text.h"
 #include "texts.h"
 
@@ -36,7 +37,10 @@ struct DayReport {
   CivilDate date;
   CCalendarSolarDate today{};
   int weekNumber = 0;
+  LunarSource source = LunarSource::kAlmanac;
   Annotation annotation;
+  Annotation other;      // by the other source
+  DayInstants instants;  // empty if the almanac is not the source
 
   int DaysFromToday() const { return DayNumber(date) - DayNumber(DateOf(today)); }
 };

@@ -182,8 +182,15 @@ class Program {
     ShowDate(month, m_options.day);
     const BoardSnapshot board = ReadBoard(month);
     const tagCalendarCell* cell = FindDay(board, m_options.day);
-    const DayReport report = {m_options.day, board.today, cell != nullptr ? cell->weekNumber : -1,
-                              m_annotator.Annotate(m_options.day)};
+    const bool almanac = m_annotator.Source() == LunarSource::kAlmanac;
+    const DayReport report = {
+        m_options.day,
+        board.today,
+        cell != nullptr ? cell->weekNumber : -1,
+        m_annotator.Source(),
+        m_annotator.Annotate(m_options.day),
+        m_annotator.AnnotateByOther(m_options.day),
+        almanac ? InstantsOf(m_annotator.Calendar(), m_options.day) : DayInstants{}};
     if (m_options.json) {
       Write(DayJson(report, m_options.board.language, !m_utf8));
     } else {

@@ -48,14 +48,21 @@ struct Texts {
   const char* lunarDayBrief = nullptr;        // {d} {D}
   const char* lunarDate = nullptr;            // {y} {m} {d} {L} {D}
   const char* lunarLeapDate = nullptr;        // {y} {m} {d} {L} {D}
+  const char* lunarBirthday = nullptr;        // {m} {d} {L} {D}
+  const char* lunarLeapBirthday = nullptr;    // {m} {d} {L} {D}
+  const char* birthdayYears = nullptr;        // {c}
 
   const char* weekHeading = nullptr;
   const char* week = nullptr;
   const char* dayOfYear = nullptr;
   const char* dayOfYearValue = nullptr;  // {d} {c}
   const char* lunarDateLabel = nullptr;
+  const char* newMoon = nullptr;
   const char* solarTerm = nullptr;
   const char* festivals = nullptr;
+  const char* notCertain = nullptr;
+  const char* byEngine = nullptr;
+  const char* byAlmanac = nullptr;
   const char* fromToday = nullptr;
   const char* today = nullptr;
   const char* tomorrow = nullptr;

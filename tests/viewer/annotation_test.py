@@ -173,6 +173,7 @@ Sunday, 31 March 2024
   Week             13
   Day of the year  91 of 366
   Lunar date       day 22 of month 2, 2024
+  New moon         2024-03-10 17:00:26 UTC+8
   Solar term       -
   Festivals        Easter Sunday
 """)
@@ -184,7 +185,8 @@ Sunday, 31 March 2024
   週數        14
   年內第幾天  95 / 365
   農曆        2023年閏二月十五
-  節氣        清明
+  朔          2023-03-22 01:23:08 UTC+8
+  節氣        清明, 09:13:03 UTC+8
   節日        -
 """)
 
@@ -203,6 +205,9 @@ Sunday, 31 March 2024
 
     def test_json(self):
         report = read_json("--language", "chs", "--day", "2024-02-04")
+        answers = {"lunar": {"year": 2023, "month": 12, "day": 25, "leap": False},
+                   "solarTerm": {"code": 2, "name": "Start of Spring", "localName": "立春"},
+                   "festivals": []}
         self.assertEqual(report, {
             "version": 1, "region": "chs", "language": 1,
             "date": {"date": "2024-02-04", "year": 2024, "month": 2, "day": 4, "dayOfWeek": 0,
@@ -210,9 +215,47 @@ Sunday, 31 March 2024
             "today": {"date": "2024-03-12", "year": 2024, "month": 3, "day": 12, "dayOfWeek": 2,
                       "dayOfWeekName": "tue"},
             "daysFromToday": -37, "weekNumber": 5, "dayOfYear": 35, "daysInYear": 366,
-            "lunar": {"year": 2023, "month": 12, "day": 25, "leap": False},
-            "solarTerm": {"code": 2, "name": "Start of Spring", "localName": "立春"},
-            "festivals": []})
+            **answers,
+            "lunarSource": "almanac",
+            "newMoon": {"date": "2024-01-11", "year": 2024, "month": 1, "day": 11, "dayOfWeek": 4,
+                        "dayOfWeekName": "thu", "hour": 19, "minute": 57, "second": 24,
+                        "offset": 28800, "uncertainty": 8, "certain": True},
+            "solarTermInstant": {"date": "2024-02-04", "year": 2024, "month": 2, "day": 4,
+                                 "dayOfWeek": 0, "dayOfWeekName": "sun", "hour": 16, "minute": 27,
+                                 "second": 7, "offset": 28800, "uncertainty": 5, "certain": True},
+            "lunarCertain": True, "solarTermCertain": True,
+            "otherSource": {"source": "engine", "differs": False, **answers}})
+
+    def test_days_that_are_not_certain(self):
+        moon = "Not certain      New moon 2089-09-04 23:59:05 UTC+8 (+/- 92 s)"
+        term = "Not certain      Spring Equinox 2084-03-20 00:00:29 UTC+8 (+/- 80 s)"
+        for day, line in (("2089-09-03", None), ("2089-09-04", moon), ("2089-09-05", moon),
+                          ("2089-10-03", moon), ("2089-10-04", None), ("2084-03-18", None),
+                          ("2084-03-19", term), ("2084-03-20", term), ("2084-03-21", None)):
+            report = output("--language", "eng", "--day", day)
+            self.assertEqual(line is not None, "Not certain" in report, day)
+            self.assertIn(line or "", report)
+        # The month that ends on 2057-09-28 may end a day earlier.
+        self.assertIn("2057-09-29 00:00:36", output("--language", "chs", "--day", "2057-09-28"))
+        report = read_json("--language", "chs", "--day", "2084-03-20")
+        self.assertIs(report["lunarCertain"], True)
+        self.assertIs(report["solarTermCertain"], False)
+        self.assertIs(report["solarTermInstant"]["certain"], False)
+
+    def test_what_the_other_source_says(self):
+        self.assertIn("\n  引擎        农历: 2033年闰七月十五, 节日: -\n",
+                      output("--language", "chs", "--day", "2033-09-08"))
+        self.assertNotIn("引擎", output("--language", "chs", "--day", "2024-02-10"))
+        engine = output("--language", "chs", "--day", "2033-08-25", "--lunar", "engine")
+        self.assertIn("\n  历书        农历: 2033年八月初一\n", engine)
+        self.assertNotIn("朔", engine)
+        report = read_json("--language", "chs", "--day", "2033-08-25", "--lunar", "engine")
+        self.assertEqual(report["lunarSource"], "engine")
+        self.assertEqual(report["otherSource"], {
+            "source": "almanac", "differs": True, "solarTerm": None, "festivals": [],
+            "lunar": {"year": 2033, "month": 8, "day": 1, "leap": False}})
+        for key in ("newMoon", "solarTermInstant", "lunarCertain", "solarTermCertain"):
+            self.assertIsNone(report[key])
 
     def test_week_number_of_a_hidden_day(self):
         report = read_json("--day", "2024-03-16", "--hide-break-days", "--week-rule", "jan1")

@@ -17,7 +17,7 @@ CELL_KEYS = {"year", "month", "day", "dayOfWeek", "weekNumber", "row", "column",
 CELL_NAMES = {"date", "dayOfWeekName", "typeName"}
 OPTION_KEYS = {"mode", "dispMonth", "maxRow", "passedWeeks", "startDayOfWeek", "startWeekNumber",
                "weekRule", "weekNumberCalcType", "hideBreakDay", "showBreakDayOfWeek",
-               "showMonthInterval", "breakDays", "region", "language", "configKey"}
+               "showMonthInterval", "breakDays", "region", "language", "configKey", "lunarSource"}
 OPTION_NAMES = {"startDayOfWeekName", "breakDayNames"}
 
 
@@ -70,7 +70,7 @@ class BoardJson(unittest.TestCase):
             "mode": "tail", "dispMonth": 2, "maxRow": 6, "passedWeeks": 2, "startDayOfWeek": 3,
             "startWeekNumber": 9, "weekRule": "start", "weekNumberCalcType": 2,
             "hideBreakDay": True, "showBreakDayOfWeek": False, "showMonthInterval": False,
-            "breakDays": [5, 6], "region": "jpn", "language": 7,
+            "breakDays": [5, 6], "region": "jpn", "language": 7, "lunarSource": "almanac",
             "configKey": "2-6-7-2-3-9-1-2-0-(0-0-0-0-1-1-0)-0"})
         self.assertEqual(read_json()["options"]["configKey"],
                          "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1")

@@ -37,14 +37,21 @@ Texts TextsChineseSimplified() {
   texts.lunarDayBrief = "{D}";
   texts.lunarDate = "{y}年{L}{D}";
   texts.lunarLeapDate = "{y}年闰{L}{D}";
+  texts.lunarBirthday = "{L}{D}";
+  texts.lunarLeapBirthday = "闰{L}{D}";
+  texts.birthdayYears = "{c}周年";
 
   texts.weekHeading = "周";
   texts.week = "周数";
   texts.dayOfYear = "年内第几天";
   texts.dayOfYearValue = "{d} / {c}";
   texts.lunarDateLabel = "农历";
+  texts.newMoon = "朔";
   texts.solarTerm = "节气";
   texts.festivals = "节日";
+  texts.notCertain = "不确定";
+  texts.byEngine = "引擎";
+  texts.byAlmanac = "历书";
   texts.fromToday = "距今天";
   texts.today = "今天";
   texts.tomorrow = "明天";

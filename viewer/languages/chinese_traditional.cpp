@@ -37,14 +37,21 @@ Texts TextsChineseTraditional() {
   texts.lunarDayBrief = "{D}";
   texts.lunarDate = "{y}年{L}{D}";
   texts.lunarLeapDate = "{y}年閏{L}{D}";
+  texts.lunarBirthday = "{L}{D}";
+  texts.lunarLeapBirthday = "閏{L}{D}";
+  texts.birthdayYears = "{c}週年";
 
   texts.weekHeading = "週";
   texts.week = "週數";
   texts.dayOfYear = "年內第幾天";
   texts.dayOfYearValue = "{d} / {c}";
   texts.lunarDateLabel = "農曆";
+  texts.newMoon = "朔";
   texts.solarTerm = "節氣";
   texts.festivals = "節日";
+  texts.notCertain = "不確定";
+  texts.byEngine = "引擎";
+  texts.byAlmanac = "曆書";
   texts.fromToday = "距今天";
   texts.today = "今天";
   texts.tomorrow = "明天";

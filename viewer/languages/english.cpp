@@ -32,14 +32,21 @@ Texts TextsEnglish() {
   texts.lunarDayBrief = "L{d}";
   texts.lunarDate = "day {d} of month {m}, {y}";
   texts.lunarLeapDate = "day {d} of leap month {m}, {y}";
+  texts.lunarBirthday = "day {d} of month {m}";
+  texts.lunarLeapBirthday = "day {d} of leap month {m}";
+  texts.birthdayYears = "{c} years";
 
   texts.weekHeading = "Wk";
   texts.week = "Week";
   texts.dayOfYear = "Day of the year";
   texts.dayOfYearValue = "{d} of {c}";
   texts.lunarDateLabel = "Lunar date";
+  texts.newMoon = "New moon";
   texts.solarTerm = "Solar term";
   texts.festivals = "Festivals";
+  texts.notCertain = "Not certain";
+  texts.byEngine = "Engine";
+  texts.byAlmanac = "Almanac";
   texts.fromToday = "When";
   texts.today = "today";
   texts.tomorrow = "tomorrow";

@@ -32,14 +32,21 @@ Texts TextsGerman() {
   texts.lunarDayBrief = "L{d}";
   texts.lunarDate = "Tag {d} des {m}. Monats {y}";
   texts.lunarLeapDate = "Tag {d} des {m}. Schaltmonats {y}";
+  texts.lunarBirthday = "Tag {d} des {m}. Monats";
+  texts.lunarLeapBirthday = "Tag {d} des {m}. Schaltmonats";
+  texts.birthdayYears = "{c} Jahre";
 
   texts.weekHeading = "KW";
   texts.week = "Woche";
   texts.dayOfYear = "Tag des Jahres";
   texts.dayOfYearValue = "{d} von {c}";
   texts.lunarDateLabel = "Mondkalender";
+  texts.newMoon = "Neumond";
   texts.solarTerm = "Sonnenabschnitt";
   texts.festivals = "Festtage";
+  texts.notCertain = "Unsicher";
+  texts.byEngine = "Engine";
+  texts.byAlmanac = "Almanach";
   texts.fromToday = "Wann";
   texts.today = "heute";
   texts.tomorrow = "morgen";

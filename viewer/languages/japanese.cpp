@@ -31,14 +31,21 @@ Texts TextsJapanese() {
   texts.lunarDayBrief = "旧{d}";
   texts.lunarDate = "{y}年{m}月{d}日";
   texts.lunarLeapDate = "{y}年閏{m}月{d}日";
+  texts.lunarBirthday = "{m}月{d}日";
+  texts.lunarLeapBirthday = "閏{m}月{d}日";
+  texts.birthdayYears = "{c}周年";
 
   texts.weekHeading = "週";
   texts.week = "週";
   texts.dayOfYear = "年間通算日";
   texts.dayOfYearValue = "{d} / {c}";
   texts.lunarDateLabel = "旧暦";
+  texts.newMoon = "朔";
   texts.solarTerm = "二十四節気";
   texts.festivals = "祝祭日";
+  texts.notCertain = "不確か";
+  texts.byEngine = "エンジン";
+  texts.byAlmanac = "暦書";
   texts.fromToday = "今日から";
   texts.today = "今日";
   texts.tomorrow = "明日";

@@ -31,14 +31,21 @@ Texts TextsKorean() {
   texts.lunarDayBrief = "음{d}";
   texts.lunarDate = "{y}년 {m}월 {d}일";
   texts.lunarLeapDate = "{y}년 윤{m}월 {d}일";
+  texts.lunarBirthday = "{m}월 {d}일";
+  texts.lunarLeapBirthday = "윤{m}월 {d}일";
+  texts.birthdayYears = "{c}주년";
 
   texts.weekHeading = "주";
   texts.week = "주";
   texts.dayOfYear = "연중 일수";
   texts.dayOfYearValue = "{d} / {c}";
   texts.lunarDateLabel = "음력";
+  texts.newMoon = "합삭";
   texts.solarTerm = "절기";
   texts.festivals = "기념일";
+  texts.notCertain = "불확실";
+  texts.byEngine = "엔진";
+  texts.byAlmanac = "역서";
   texts.fromToday = "오늘부터";
   texts.today = "오늘";
   texts.tomorrow = "내일";

@@ -33,14 +33,21 @@ Texts TextsRussian() {
   texts.lunarDayBrief = "л{d}";
   texts.lunarDate = "{d}-й день {m}-го месяца {y}";
   texts.lunarLeapDate = "{d}-й день вставного {m}-го месяца {y}";
+  texts.lunarBirthday = "{d}-й день {m}-го месяца";
+  texts.lunarLeapBirthday = "{d}-й день вставного {m}-го месяца";
+  texts.birthdayYears = "лет: {c}";
 
   texts.weekHeading = "Нед";
   texts.week = "Неделя";
   texts.dayOfYear = "День года";
   texts.dayOfYearValue = "{d} из {c}";
   texts.lunarDateLabel = "Лунная дата";
+  texts.newMoon = "Новолуние";
   texts.solarTerm = "Солнечный сезон";
   texts.festivals = "Праздники";
+  texts.notCertain = "Не точно";
+  texts.byEngine = "Движок";
+  texts.byAlmanac = "Альманах";
   texts.fromToday = "Когда";
   texts.today = "сегодня";
   texts.tomorrow = "завтра";

@@ -31,14 +31,21 @@ Texts TextsThai() {
   texts.lunarDayBrief = "จค{d}";
   texts.lunarDate = "วันที่ {d} เดือน {m} ปี {y}";
   texts.lunarLeapDate = "วันที่ {d} เดือน {m} (อธิกมาส) ปี {y}";
+  texts.lunarBirthday = "วันที่ {d} เดือน {m}";
+  texts.lunarLeapBirthday = "วันที่ {d} เดือน {m} (อธิกมาส)";
+  texts.birthdayYears = "{c} ปี";
 
   texts.weekHeading = "สป.";
   texts.week = "สัปดาห์ที่";
   texts.dayOfYear = "วันที่ของปี";
   texts.dayOfYearValue = "{d} จาก {c}";
   texts.lunarDateLabel = "จันทรคติจีน";
+  texts.newMoon = "จันทร์ดับ";
   texts.solarTerm = "ปักษ์สุริยคติ";
   texts.festivals = "วันสำคัญ";
+  texts.notCertain = "ไม่แน่นอน";
+  texts.byEngine = "เอนจิน";
+  texts.byAlmanac = "ปฏิทินประกาศ";
   texts.fromToday = "นับจากวันนี้";
   texts.today = "วันนี้";
   texts.tomorrow = "พรุ่งนี้";

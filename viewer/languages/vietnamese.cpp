@@ -31,14 +31,21 @@ Texts TextsVietnamese() {
   texts.lunarDayBrief = "{d}";
   texts.lunarDate = "ngày {d} tháng {m} năm {y}";
   texts.lunarLeapDate = "ngày {d} tháng {m} nhuận năm {y}";
+  texts.lunarBirthday = "ngày {d} tháng {m}";
+  texts.lunarLeapBirthday = "ngày {d} tháng {m} nhuận";
+  texts.birthdayYears = "{c} năm";
 
   texts.weekHeading = "Tuần";
   texts.week = "Tuần";
   texts.dayOfYear = "Ngày trong năm";
   texts.dayOfYearValue = "{d} / {c}";
   texts.lunarDateLabel = "Âm lịch";
+  texts.newMoon = "Trăng non";
   texts.solarTerm = "Tiết khí";
   texts.festivals = "Ngày lễ";
+  texts.notCertain = "Chưa chắc chắn";
+  texts.byEngine = "Bộ máy tính";
+  texts.byAlmanac = "Lịch công bố";
   texts.fromToday = "So với hôm nay";
   texts.today = "hôm nay";
   texts.tomorrow = "ngày mai";
