@@ -382,7 +382,9 @@ class Zones(unittest.TestCase):
             for arguments in (("--mode", "month"), ("--mode", "rolling", "--rows", "8"),
                               ("--mode", "tail"), ("--mode", "strip"), ("--next",), ("-3",),
                               ("--week-rule", "jan1", "--rows", "9"), ("--offset", "3"),
-                              (day[:4],), ("--list",), ("--day", f"{day[:7]}-31")):
+                              (day[:4],), ("--list",),
+                              # Of this region the engine's own answer does not go by the zone either.
+                              ("--language", "chs", "--day", f"{day[:7]}-31")):
                 self.assertEqual(output(*arguments, today=today, zone=zone),
                                  output(*arguments, today=today, zone="UTC"), (zone, arguments))
 
