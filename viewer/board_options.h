@@ -63,9 +63,9 @@ constexpr Word<ECalendarWeek> kDayWords[] = {
     {"sat", eCalendarWeekSaturday}};
 
 constexpr Word<ELanguage> kLanguageWords[] = {
-    {"chs", eLanguageChs}, {"kor", eLanguageKor}, {"usa", eLanguageUsa}, {"cht", eLanguageCht},
-    {"rus", eLanguageRus}, {"deu", eLanguageDeu}, {"jpn", eLanguageJpn}, {"eng", eLanguageEng},
-    {"vit", eLanguageVit}, {"tha", eLanguageTha}};
+    {"chs", eLanguageChs}, {"cht", eLanguageCht}, {"deu", eLanguageDeu}, {"eng", eLanguageEng},
+    {"jpn", eLanguageJpn}, {"kor", eLanguageKor}, {"rus", eLanguageRus}, {"tha", eLanguageTha},
+    {"usa", eLanguageUsa}, {"vit", eLanguageVit}};
 
 template <typename Words, typename Value>
 const char* WordFor(const Words& words, Value value) {

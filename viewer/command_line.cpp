@@ -456,7 +456,9 @@ class CommandLine {
       "[12] is today, 16 with a dot a break day, 8* a festival among several months.\n"
       "Under a day stands its festival, its solar term or its lunar day: L25 is the\n"
       "25th of a lunar month, Moon 2 the first of the second. The locale decides\n"
-      "where --language and --first-day do not. Defaults of your own:\n"
+      "where --language and --first-day do not. Regions: Chinese (simplified and\n"
+      "traditional), German, English, Japanese, Korean, Russian, Thai, United States,\n"
+      "Vietnamese. Defaults of your own:\n"
       "~/.config/almara/almara-board.toml, a line such as rows = 6 for each option.";
   static constexpr int kHelpColumn = 24;
   static constexpr int kLargestOffset = 99999;

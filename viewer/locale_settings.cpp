@@ -70,17 +70,17 @@ ELanguage LanguageOfLocale(const std::string& name) {
     const char* prefix;
     ELanguage language;
   };
-  // The first match counts, so a territory stands before its language.
+  // The first match counts, so a script or a territory stands before its language.
   constexpr Rule kRules[] = {
-      {"zh_TW", eLanguageCht}, {"zh_HK", eLanguageCht}, {"zh_MO", eLanguageCht},
-      {"zh", eLanguageChs},    {"ko", eLanguageKor},    {"ja", eLanguageJpn},
-      {"vi", eLanguageVit},    {"th", eLanguageTha},    {"ru", eLanguageRus},
-      {"de", eLanguageDeu},    {"en_US", eLanguageUsa},
+      {"zh_Hant", eLanguageCht}, {"zh_TW", eLanguageCht}, {"zh_HK", eLanguageCht},
+      {"zh_MO", eLanguageCht},   {"zh", eLanguageChs},    {"ko", eLanguageKor},
+      {"ja", eLanguageJpn},      {"vi", eLanguageVit},    {"th", eLanguageTha},
+      {"ru", eLanguageRus},      {"de", eLanguageDeu},    {"en_US", eLanguageUsa},
   };
   const std::string locale = name.substr(0, name.find_first_of(".@"));
-  const std::string language = locale.substr(0, locale.find('_'));
   for (const Rule& rule : kRules) {
-    if (locale == rule.prefix || language == rule.prefix) {
+    const std::string prefix = rule.prefix;
+    if (locale == prefix || locale.rfind(prefix + "_", 0) == 0) {
       return rule.language;
     }
   }

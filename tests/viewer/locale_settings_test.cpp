@@ -19,6 +19,8 @@ TEST(LocaleSettings, LanguageFollowsTheLocaleName) {
       {"zh_TW.UTF-8", eLanguageCht},
       {"zh_HK.big5", eLanguageCht},
       {"zh_MO@x", eLanguageCht},
+      {"zh_Hant_TW.UTF-8", eLanguageCht},
+      {"zh_Hans_CN", eLanguageChs},
       {"ko_KR.UTF-8", eLanguageKor},
       {"ja_JP.eucJP", eLanguageJpn},
       {"vi_VN", eLanguageVit},
