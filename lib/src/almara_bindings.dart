@@ -49,6 +49,7 @@ class AlmaraBindings {
 
   /// Days of a lunar month, 29 or 30.
   ///
+  /// @param calendar ::EAlmanacCalendar; any other value is answered as a date outside the span
   /// @param year 1900 to 2099, and 1899 for a month that reaches into 1900
   /// @param month 1 to 12
   /// @param leap 1 for the leap month of this number, 0 for the plain one
@@ -107,6 +108,7 @@ class AlmaraBindings {
 
   /// The lunar date of a Gregorian date.
   ///
+  /// @param calendar ::EAlmanacCalendar; any other value is answered as a date outside the span
   /// @param date 1900-01-01 to 2099-12-31; its day of the week is not read
   /// @return the lunar date, of the lunar years 1899 (its end) to 2099; all zeroes outside the span
   /// and for a date that does not exist
@@ -130,6 +132,7 @@ class AlmaraBindings {
   /// The lunar festival of a Gregorian date, by the rules of CheckFestivalLunarWithLang() and the
   /// dates of AlmanacLunarDate().
   ///
+  /// @param calendar ::EAlmanacCalendar; any other value is answered as a date outside the span
   /// @param language ::ELanguage, whose festivals; the calendar need not be that region's
   /// @param date 1900-01-01 to 2099-12-31; its day of the week is not read
   /// @return ::EFestivalLunar; 0 for none, outside the span, and for a date that does not exist
@@ -193,6 +196,7 @@ class AlmaraBindings {
 
   /// A new moon of a Gregorian year.
   ///
+  /// @param calendar ::EAlmanacCalendar; any other value is answered as a date outside the span
   /// @param year 1900 to 2099
   /// @param index 0 for the first one of the year, to 11 or 12 for the last
   /// @return all zeroes where the year has no such new moon
@@ -217,6 +221,7 @@ class AlmaraBindings {
   /// plain month of the same number in the others. Day 30 falls on day 29 where the month is short.
   /// The rules turn off either, so that such a year has no anniversary.
   ///
+  /// @param calendar ::EAlmanacCalendar; any other value is answered as a date outside the span
   /// @param date month 1 to 12, day 1 to 30, leap 0 or 1; `year` and `reserved` are not read
   /// @param from 1900-01-01 to 2099-12-31; its day of the week is not read
   /// @param rules ::EAlmanacAnniversary
@@ -256,6 +261,7 @@ class AlmaraBindings {
 
   /// The Gregorian date of a lunar date: AlmanacLunarDate() turned around.
   ///
+  /// @param calendar ::EAlmanacCalendar; any other value is answered as a date outside the span
   /// @param date year, month 1 to 12, day 1 to 30, leap 0 or 1; `reserved` is not read
   /// @return the date with its day of the week. All zeroes where there is no such day: day 30 of a
   ///     short month, a leap month that the year lacks, a day outside 1900-01-01 to 2099-12-31.
@@ -276,6 +282,7 @@ class AlmaraBindings {
 
   /// The instant of a solar term.
   ///
+  /// @param calendar ::EAlmanacCalendar; any other value is answered as a date outside the span
   /// @param year 1900 to 2099
   /// @param term ::ESolarKyureki24, 0 to 23
   /// @return a date of that year; all zeroes outside these ranges
