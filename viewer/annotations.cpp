@@ -127,8 +127,9 @@ std::string LunarDateText(const Texts& texts, const CCalendarLunarDate& lunar) {
   if (lunar.month == 0) {
     return {};
   }
-  return FillPattern(lunar.leap != 0 ? texts.lunarLeapDate : texts.lunarDate,
-                     LunarValues(texts, lunar));
+  const char* dated = lunar.leap != 0 ? texts.lunarLeapDate : texts.lunarDate;
+  const char* yearly = lunar.leap != 0 ? texts.lunarLeapBirthday : texts.lunarBirthday;
+  return FillPattern(lunar.year != 0 ? dated : yearly, LunarValues(texts, lunar));
 }
 
 }  // namespace almara::viewer

@@ -83,7 +83,7 @@ std::string LunarDayText(const Texts& texts, const CCalendarLunarDate& lunar);
 // The same in at most five cells.
 std::string LunarDayBrief(const Texts& texts, const CCalendarLunarDate& lunar);
 
-// The whole lunar date.
+// The whole lunar date, month and day alone if its year is 0.
 std::string LunarDateText(const Texts& texts, const CCalendarLunarDate& lunar);
 
 }  // namespace almara::viewer

@@ -24,9 +24,11 @@ enum Use : unsigned {
   kDay = 4U,
   kList = 8U,
   kScreen = 16U,
+  kBirthday = 32U,
   kBoards = kBoard | kScreen,
   kPages = kBoards | kMonths,
-  kAll = kPages | kDay | kList,
+  kDays = kPages | kDay | kList,
+  kAll = kDays | kBirthday,
 };
 
 constexpr Use operator|(Use a, Use b) { return static_cast<Use>(static_cast<unsigned>(a) | b); }
@@ -40,6 +42,8 @@ Use UseOf(Task task) {
       return kDay;
     case Task::kListYear:
       return kList;
+    case Task::kShowBirthday:
+      return kBirthday;
     case Task::kFullScreen:
       return kScreen;
     case Task::kShowBoard:
@@ -196,7 +200,7 @@ class CommandLine {
             [&board] { board.hideBreakDays = true; });
     AddFlag("--no-annotations", "No line under the days and no legend", kPages,
             [this] { m_options.annotations = false; });
-    AddWord("--lunar", "WHOSE", "Lunar dates and terms: almanac (published) or engine", kAll,
+    AddWord("--lunar", "WHOSE", "Lunar dates and terms: almanac (published) or engine", kDays,
             kLunarSourceWords, m_options.lunar);
     AddWord("--language", "REGION", "chs, cht, deu, eng, jpn, kor, rus, tha, usa or vit", kAll,
             kLanguageWords, board.language);
@@ -275,16 +279,24 @@ class CommandLine {
     });
     AddFlag("--list", "The solar terms and festivals of a year", kList,
             [this] { SetTask(Task::kListYear, "--list"); });
-    AddValue("--year", "YYYY", "The year of --list instead of this one", kList,
+    AddValue("--lunar-date", "[Y-][leap]M-D",
+             "The dates of a lunar birthday, such as 8-15 or leap4-1", kBirthday,
              [this](Text name, Text text) {
+               SetTask(Task::kShowBirthday, name);
+               m_options.birthday.date = ReadLunarDate(name, text);
+             });
+    AddValue("--year", "YYYY", "The year to list or to begin with, instead of now",
+             kList | kBirthday, [this](Text name, Text text) {
                m_options.year = ReadNumber(name, text, kFirstYear, kLastYear);
              });
+    AddValue("--years", "N", "How many years of --lunar-date (10)", kBirthday,
+             [this](Text name, Text text) { m_options.years = ReadNumber(name, text, 1, kYears); });
   }
 
   void DeclareOutput() {
     m_group = "Output";
-    constexpr Use kText = kBoard | kMonths | kDay | kList;
-    constexpr Use kJson = kBoard | kDay | kList;
+    constexpr Use kText = kBoard | kMonths | kDay | kList | kBirthday;
+    constexpr Use kJson = kBoard | kDay | kList | kBirthday;
     AddFlag("--tui", "Full screen; ? shows the keys", kScreen,
             [this] { SetTask(Task::kFullScreen, "--tui"); });
     AddFlag("--json", "Everything the engine reports, for scripts", kJson,
@@ -296,7 +308,7 @@ class CommandLine {
              [this](Text name, Text text) {
                m_options.columns = ReadNumber(name, text, kFewestColumns, kMostColumns);
              });
-    AddFlag("--dump", "Show the engine's own dump of each build", kText,
+    AddFlag("--dump", "Show the engine's own dump of each build", kBoard | kMonths | kDay | kList,
             [this] { m_options.dump = true; });
     AddFlag("--no-config", "Do not read the configuration file", kAll,
             [this] { m_readsConfiguration = false; });
@@ -348,8 +360,8 @@ class CommandLine {
     }
     m_options.when = ReadWhen(arguments, TextsFor(m_options.board.language, true));
     const bool yearOnly = !m_options.when.month;
-    m_given.emplace_back(arguments.back(), yearOnly ? kPages | kList : kPages);
-    if (m_options.task == Task::kListYear && yearOnly) {
+    m_given.emplace_back(arguments.back(), yearOnly ? kPages | kTakesYear : kPages);
+    if ((UseOf(m_options.task) & kTakesYear) != 0 && yearOnly) {
       m_options.year = m_options.when.year;
     } else if (yearOnly) {
       SetTask(Task::kShowYear, arguments.back());
@@ -399,8 +411,8 @@ class CommandLine {
     if (m_options.dump && (m_options.json || tui)) {
       Reject("--dump", tui ? "cannot be combined with --tui" : "cannot be combined with --json");
     }
-    if (Given("--year") && m_options.task != Task::kListYear) {
-      Reject("--year", "is for --list");
+    if (Given("--year") && (UseOf(m_options.task) & kTakesYear) == 0) {
+      Reject("--year", "is for --list and --lunar-date");
     }
     for (const auto& [name, use] : m_given) {
       if ((use & UseOf(m_options.task)) == 0) {
@@ -460,6 +472,8 @@ class CommandLine {
       "traditional), German, English, Japanese, Korean, Russian, Thai, United States,\n"
       "Vietnamese. Defaults of your own:\n"
       "~/.config/almara/almara-board.toml, a line such as rows = 6 for each option.";
+  static constexpr Use kTakesYear = kList | kBirthday;
+  static constexpr int kYears = kLastYear - kFirstYear + 1;
   static constexpr int kHelpColumn = 24;
   static constexpr int kLargestOffset = 99999;
   static constexpr int kMostMonths = 99;

@@ -218,4 +218,26 @@ std::string YearJson(int year, CivilDate today, const std::vector<NamedDay>& day
                ascii);
 }
 
+std::string BirthdayJson(const BirthdayReport& report, ELanguage region, bool ascii) {
+  const CCalendarLunarDate& lunar = report.birthday.date;
+  Json days = Json::array();
+  for (const Anniversary& day : report.days) {
+    Json json = CivilDateJson(day.date);
+    json["daysFromToday"] = DayNumber(day.date) - DayNumber(report.today);
+    json["lunar"] = LunarJson(day.lunar);
+    json["years"] = lunar.year != 0 ? Json(day.years) : Json();
+    json["certain"] = day.certain;
+    days.push_back(std::move(json));
+  }
+  Json birthday = LunarJson(lunar);
+  birthday["year"] = lunar.year != 0 ? Json(lunar.year) : Json();
+  return Print({{"version", kVersion},
+                {"region", WordFor(kLanguageWords, region)},
+                {"language", region},
+                {"today", CivilDateJson(report.today)},
+                {"birthday", std::move(birthday)},
+                {"days", std::move(days)}},
+               ascii);
+}
+
 }  // namespace almara::viewer

@@ -100,6 +100,20 @@ CivilDate ReadDate(const std::string& option, const std::string& text) {
   return *parsed.date;
 }
 
+CCalendarLunarDate ReadLunarDate(const std::string& option, const std::string& text) {
+  static const std::regex kPattern(R"((?:(\d{4})-)?(leap)?(\d{1,2})-(\d{1,2}))");
+  std::smatch match;
+  const bool matches = std::regex_match(text, match, kPattern);
+  const std::optional<int> year = matches ? YearNumber(match[1]) : std::nullopt;
+  const std::optional<int> month = matches ? Number(match[3], 1, 12) : std::nullopt;
+  const std::optional<int> day = matches ? Number(match[4], 1, 30) : std::nullopt;
+  if (!month || !day || (match[1].matched && !year)) {
+    Reject(option,
+           "expected a lunar date such as 8-15, leap4-1 or 1984-leap10-15, not '" + text + "'");
+  }
+  return {year.value_or(0), *month, *day, 0, match[2].matched ? 1 : 0};
+}
+
 std::array<bool, 7> ReadBreakDays(const std::string& option, const std::string& text) {
   std::array<bool, 7> days{};
   if (text == "none") {

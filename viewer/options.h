@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "annotations.h"
+#include "birthdays.h"
 #include "board_options.h"
 #include "civil_date.h"
 #include "styled_text.h"
@@ -20,6 +21,7 @@ enum class Task {
   kShowYear,
   kShowDay,
   kListYear,
+  kShowBirthday,
   kFullScreen,
   kPrintText
 };
@@ -43,9 +45,11 @@ struct Options {
   WeekNumbers weekNumbers = WeekNumbers::kIfRoom;
   bool annotations = true;
   LunarSource lunar = LunarSource::kAlmanac;
-  CivilDate day;            // for Task::kShowDay
-  std::optional<int> year;  // for Task::kListYear; none is this year
-  std::string text;         // for Task::kPrintText
+  CivilDate day;             // for Task::kShowDay
+  std::optional<int> year;   // for Task::kListYear and the following two; none is this year
+  LunarBirthday birthday;    // for Task::kShowBirthday
+  std::optional<int> years;  // for Task::kShowBirthday
+  std::string text;          // for Task::kPrintText
   bool json = false;
   bool dump = false;
   ColorMode color = ColorMode::kAuto;

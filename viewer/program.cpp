@@ -5,6 +5,7 @@
 #include <string>
 
 #include "annotations.h"
+#include "birthdays.h"
 #include "board_host.h"
 #include "board_painter.h"
 #include "error_report.h"
@@ -52,6 +53,9 @@ class Program {
         break;
       case Task::kListYear:
         ListYear();
+        break;
+      case Task::kShowBirthday:
+        ShowBirthday();
         break;
       case Task::kFullScreen:
         Navigate();
@@ -206,6 +210,31 @@ class Program {
       Write(YearJson(year, today, days, m_options.board.language, !m_utf8));
     } else {
       Print(YearLines(year, today, days, m_texts));
+    }
+  }
+
+  // The day of birth, where its year is known, and the anniversaries from today or from a year on.
+  void ShowBirthday() {
+    constexpr int kAnniversaries = 10;
+    const EAlmanacCalendar calendar = m_annotator.Calendar();
+    const LunarBirthday& birthday = m_options.birthday;
+    const CivilDate today = ReadToday();
+    const std::optional<Anniversary> birth = BirthOf(calendar, birthday);
+    if (birthday.date.year != 0 && !birth) {
+      throw UsageError("--lunar-date: the year " + std::to_string(birthday.date.year) +
+                       " has no such lunar day");
+    }
+    const CivilDate first = m_options.year ? CivilDate{*m_options.year, 1, 1} : today;
+    BirthdayReport report = {birthday, today,
+                             AnniversariesOf(calendar, birthday, first, kLastDate,
+                                             m_options.years.value_or(kAnniversaries))};
+    if (birth && (report.days.empty() || report.days.front().date != birth->date)) {
+      report.days.insert(report.days.begin(), *birth);
+    }
+    if (m_options.json) {
+      Write(BirthdayJson(report, m_options.board.language, !m_utf8));
+    } else {
+      Print(BirthdayLines(report, m_texts));
     }
   }
 

@@ -149,6 +149,10 @@ class Schema(unittest.TestCase):
         for region in ("chs", "kor", "usa", "vit"):
             self.check("day", "--language", region, "--day", "2024-02-10")
             self.check("year", "--language", region, "--list", "2024")
+        self.check("day", "--day", "2024-02-04", "--lunar", "engine")
+        self.check("day", "--day", "2084-03-20", "--language", "chs")
+        self.check("anniversaries", "--lunar-date", "8-15")
+        self.check("anniversaries", "--lunar-date", "1984-leap10-1")
 
     def test_something_else_is_refused(self):
         with self.assertRaises(jsonschema.ValidationError):

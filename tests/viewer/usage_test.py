@@ -14,7 +14,7 @@ class Usage(unittest.TestCase):
         for option in ("--mode", "--date", "--rows", "--passed-weeks", "--first-day", "--week-rule",
                        "--start-week", "-w", "-M", "-S", "--hide-break-days", "--break-days",
                        "--no-month-interval", "--language", "--next", "--previous", "--offset",
-                       "--day", "--list", "--year", "--no-annotations", "--json", "--color", "--tui",
+                       "--day", "--list", "--year", "--years", "--lunar", "--lunar-date", "--no-annotations", "--json", "--color", "--tui",
                        "--dump", "-m", "-3", "-A", "-B", "-y", "--ascii", "--width", "--no-config"):
             self.assertIn(option, text)
         self.assertLessEqual(max(len(line) for line in text.splitlines()), 80)
@@ -47,7 +47,20 @@ class Usage(unittest.TestCase):
                 (("--day", "2024-02-30"), "--day: 2024-02-30 is not a day of the calendar"),
                 (("--year", "1899", "--list"),
                  "--year: expected a number from 1900 to 2099, not '1899'"),
-                (("--year", "2025"), "--year: is for --list"),
+                (("--year", "2025"), "--year: is for --list and --lunar-date"),
+                (("--years", "2"), "--years: is not for a board"),
+                (("--years", "201", "--lunar-date", "8-15"),
+                 "--years: expected a number from 1 to 200, not '201'"),
+                (("--lunar-date", "8-31"), "--lunar-date: expected a lunar date such as 8-15, "
+                                           "leap4-1 or 1984-leap10-15, not '8-31'"),
+                (("--lunar-date", "1899-8-15"), "--lunar-date: expected a lunar date such as 8-15, "
+                                                "leap4-1 or 1984-leap10-15, not '1899-8-15'"),
+                (("--lunar-date", "2024-leap2-15"),
+                 "--lunar-date: the year 2024 has no such lunar day"),
+                (("--lunar-date", "8-15", "--lunar", "engine"),
+                 "--lunar: cannot be combined with --lunar-date"),
+                (("--lunar-date", "8-15", "--list"), "--list: cannot be combined with --lunar-date"),
+                (("--lunar-date", "8-15", "feb"), "feb: cannot be combined with --lunar-date"),
                 (("--list", "--day", "2024-01-01"), "--day: cannot be combined with --list"),
                 (("--tui", "--list"), "--list: cannot be combined with --tui"),
                 (("--tui",), "--tui needs a terminal"),
