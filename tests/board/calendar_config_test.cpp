@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <limits>
+#include <string>
 
 namespace {
 
@@ -11,53 +13,7 @@ constexpr int kMin = std::numeric_limits<int>::min();
 constexpr int kMax = std::numeric_limits<int>::max();
 constexpr char kDefaultKey[] = "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1";
 
-TEST(CalendarConfig, Defaults) {
-  const CCalendarConfig config;
-  EXPECT_EQ(config.GetDispMonth(), 1);
-  EXPECT_EQ(config.GetMaxRows(), 5);
-  EXPECT_EQ(config.GetMaxColumns(), 7);
-  EXPECT_EQ(config.GetPassedWeeks(), 1);
-  EXPECT_EQ(config.GetStartDayOfWeek(), 1);
-  EXPECT_EQ(config.GetStartWeekNumber(), 1);
-  EXPECT_FALSE(config.IsHideBreakDay());
-  EXPECT_TRUE(config.IsShowMonthInterval());
-  for (int day = 0; day < 7; ++day) {
-    EXPECT_EQ(config.IsBreakDayOfWeek(day), day == 0 || day == 6) << day;
-  }
-  EXPECT_TRUE(config.IsShowBreakDayOfWeek());
-  EXPECT_EQ(config.GetWeekNumberCalcType(), 1);
-  EXPECT_EQ(config.GetConfigKey(), kDefaultKey);
-}
-
-TEST(CalendarConfig, SettersOfIntsStoreWhateverTheyAreGiven) {
-  CCalendarConfig config;
-  for (const int value : {0, 1, 4, 5, -1, 60, kMin, kMax}) {
-    config.SetDispMonth(value);
-    EXPECT_EQ(config.GetDispMonth(), value);
-    config.SetMaxRows(value);
-    EXPECT_EQ(config.GetMaxRows(), value);
-    config.SetPassedWeeks(value);
-    EXPECT_EQ(config.GetPassedWeeks(), value);
-    config.SetStartDayOfWeek(value);
-    EXPECT_EQ(config.GetStartDayOfWeek(), value);
-    config.SetStartWeekNumber(value);
-    EXPECT_EQ(config.GetStartWeekNumber(), value);
-    config.SetWeekNumberCalcType(value);
-    EXPECT_EQ(config.GetWeekNumberCalcType(), value);
-  }
-}
-
-TEST(CalendarConfig, FlagsAreStored) {
-  CCalendarConfig config;
-  for (const bool flag : {true, false, true}) {
-    config.SetHideBreakDay(flag);
-    EXPECT_EQ(config.IsHideBreakDay(), flag);
-    config.SetShowMonthInterval(flag);
-    EXPECT_EQ(config.IsShowMonthInterval(), flag);
-    config.SetShowBreakDayOfWeek(flag);
-    EXPECT_EQ(config.IsShowBreakDayOfWeek(), flag);
-  }
-}
+TEST(CalendarConfig, Defaults) { EXPECT_EQ(CCalendarConfig().GetConfigKey(), kDefaultKey); }
 
 TEST(CalendarConfig, MaxColumnsTakesOneToSevenAndIgnoresTheRest) {
   CCalendarConfig config;
@@ -70,16 +26,8 @@ TEST(CalendarConfig, MaxColumnsTakesOneToSevenAndIgnoresTheRest) {
     config.SetMaxColumns(columns);
     EXPECT_EQ(config.GetMaxColumns(), columns);
   }
-}
-
-TEST(CalendarConfig, BreakDaysAreSetAndTakenAwayOneByOne) {
-  CCalendarConfig config;
-  for (int day = 0; day < 7; ++day) {
-    config.SetBreakDayOfWeek(day, true);
-    EXPECT_TRUE(config.IsBreakDayOfWeek(day));
-    config.SetBreakDayOfWeek(day, false);
-    EXPECT_FALSE(config.IsBreakDayOfWeek(day));
-  }
+  config.SetMaxColumns(4);
+  EXPECT_EQ(config.GetConfigKey(), "1-5-4-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1");
 }
 
 TEST(CalendarConfig, ADayOutsideTheWeekIsNoBreakDayAndCannotBecomeOne) {
@@ -91,60 +39,82 @@ TEST(CalendarConfig, ADayOutsideTheWeekIsNoBreakDayAndCannotBecomeOne) {
   }
 }
 
-TEST(CalendarConfig, KeyHoldsEachValueInItsPlace) {
-  struct {
-    void (*set)(CCalendarConfig&);
-    const char* key;
-  } const cases[] = {
-      {[](CCalendarConfig& c) { c.SetDispMonth(3); }, "3-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1"},
-      {[](CCalendarConfig& c) { c.SetMaxRows(6); }, "1-6-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1"},
-      {[](CCalendarConfig& c) { c.SetMaxColumns(4); }, "1-5-4-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1"},
-      {[](CCalendarConfig& c) { c.SetPassedWeeks(2); }, "1-5-7-2-1-1-0-1-1-(0-0-0-0-0-1-1)-1"},
-      {[](CCalendarConfig& c) { c.SetStartDayOfWeek(6); }, "1-5-7-1-6-1-0-1-1-(0-0-0-0-0-1-1)-1"},
-      {[](CCalendarConfig& c) { c.SetStartWeekNumber(10); },
-       "1-5-7-1-1-10-0-1-1-(0-0-0-0-0-1-1)-1"},
-      {[](CCalendarConfig& c) { c.SetHideBreakDay(true); }, "1-5-7-1-1-1-1-1-1-(0-0-0-0-0-1-1)-1"},
-      // The rule for week numbers stands between the two flags.
-      {[](CCalendarConfig& c) { c.SetWeekNumberCalcType(2); },
-       "1-5-7-1-1-1-0-2-1-(0-0-0-0-0-1-1)-1"},
-      {[](CCalendarConfig& c) { c.SetShowMonthInterval(false); },
-       "1-5-7-1-1-1-0-1-0-(0-0-0-0-0-1-1)-1"},
-      // Monday to Saturday, then Sunday.
-      {[](CCalendarConfig& c) { c.SetBreakDayOfWeek(1, true); },
-       "1-5-7-1-1-1-0-1-1-(1-0-0-0-0-1-1)-1"},
-      {[](CCalendarConfig& c) { c.SetBreakDayOfWeek(2, true); },
-       "1-5-7-1-1-1-0-1-1-(0-1-0-0-0-1-1)-1"},
-      {[](CCalendarConfig& c) { c.SetBreakDayOfWeek(3, true); },
-       "1-5-7-1-1-1-0-1-1-(0-0-1-0-0-1-1)-1"},
-      {[](CCalendarConfig& c) { c.SetBreakDayOfWeek(4, true); },
-       "1-5-7-1-1-1-0-1-1-(0-0-0-1-0-1-1)-1"},
-      {[](CCalendarConfig& c) { c.SetBreakDayOfWeek(5, true); },
-       "1-5-7-1-1-1-0-1-1-(0-0-0-0-1-1-1)-1"},
-      {[](CCalendarConfig& c) { c.SetBreakDayOfWeek(6, false); },
-       "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-0-1)-1"},
-      {[](CCalendarConfig& c) { c.SetBreakDayOfWeek(0, false); },
-       "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-0)-1"},
-      {[](CCalendarConfig& c) { c.SetShowBreakDayOfWeek(false); },
-       "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-0"},
-  };
-  for (const auto& c : cases) {
+struct IntOption {
+  void (CCalendarConfig::*set)(int);
+  int (CCalendarConfig::*get)() const;
+  const char* keyOf9;
+};
+
+// The rule for week numbers stands between the two flags.
+constexpr IntOption kIntOptions[] = {
+    {&CCalendarConfig::SetDispMonth, &CCalendarConfig::GetDispMonth,
+     "9-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1"},
+    {&CCalendarConfig::SetMaxRows, &CCalendarConfig::GetMaxRows,
+     "1-9-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1"},
+    {&CCalendarConfig::SetPassedWeeks, &CCalendarConfig::GetPassedWeeks,
+     "1-5-7-9-1-1-0-1-1-(0-0-0-0-0-1-1)-1"},
+    {&CCalendarConfig::SetStartDayOfWeek, &CCalendarConfig::GetStartDayOfWeek,
+     "1-5-7-1-9-1-0-1-1-(0-0-0-0-0-1-1)-1"},
+    {&CCalendarConfig::SetStartWeekNumber, &CCalendarConfig::GetStartWeekNumber,
+     "1-5-7-1-1-9-0-1-1-(0-0-0-0-0-1-1)-1"},
+    {&CCalendarConfig::SetWeekNumberCalcType, &CCalendarConfig::GetWeekNumberCalcType,
+     "1-5-7-1-1-1-0-9-1-(0-0-0-0-0-1-1)-1"}};
+
+TEST(CalendarConfig, IntsAreStoredAsGivenAndHaveTheirPlaceInTheKey) {
+  CCalendarConfig extreme;
+  for (const IntOption& option : kIntOptions) {
     CCalendarConfig config;
-    c.set(config);
-    EXPECT_EQ(config.GetConfigKey(), c.key);
+    (config.*option.set)(9);
+    EXPECT_EQ((config.*option.get)(), 9);
+    EXPECT_EQ(config.GetConfigKey(), option.keyOf9);
+    (extreme.*option.set)(kMin);
+    EXPECT_EQ((extreme.*option.get)(), kMin);
+  }
+  EXPECT_EQ(extreme.GetConfigKey(),
+            "-2147483648--2147483648-7--2147483648--2147483648--2147483648-0--2147483648-1-"
+            "(0-0-0-0-0-1-1)-1");
+}
+
+struct FlagOption {
+  void (CCalendarConfig::*set)(bool);
+  bool (CCalendarConfig::*get)() const;
+  const char* keyOfTrue;
+  const char* keyOfFalse;
+};
+
+constexpr FlagOption kFlagOptions[] = {
+    {&CCalendarConfig::SetHideBreakDay, &CCalendarConfig::IsHideBreakDay,
+     "1-5-7-1-1-1-1-1-1-(0-0-0-0-0-1-1)-1", kDefaultKey},
+    {&CCalendarConfig::SetShowMonthInterval, &CCalendarConfig::IsShowMonthInterval, kDefaultKey,
+     "1-5-7-1-1-1-0-1-0-(0-0-0-0-0-1-1)-1"},
+    {&CCalendarConfig::SetShowBreakDayOfWeek, &CCalendarConfig::IsShowBreakDayOfWeek, kDefaultKey,
+     "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-0"}};
+
+TEST(CalendarConfig, FlagsAreStoredAndHaveTheirPlaceInTheKey) {
+  for (const FlagOption& option : kFlagOptions) {
+    CCalendarConfig config;
+    for (const bool flag : {true, false, true}) {
+      (config.*option.set)(flag);
+      EXPECT_EQ((config.*option.get)(), flag);
+      EXPECT_EQ(config.GetConfigKey(), flag ? option.keyOfTrue : option.keyOfFalse);
+    }
   }
 }
 
-TEST(CalendarConfig, KeyHoldsTheLongestValuesInFull) {
+// Monday to Saturday, then Sunday.
+TEST(CalendarConfig, KeyHoldsTheBreakDaysFromMonday) {
   CCalendarConfig config;
-  config.SetDispMonth(kMin);
-  config.SetMaxRows(kMin);
-  config.SetPassedWeeks(kMin);
-  config.SetStartDayOfWeek(kMin);
-  config.SetStartWeekNumber(kMin);
-  config.SetWeekNumberCalcType(kMin);
-  EXPECT_EQ(config.GetConfigKey(),
-            "-2147483648--2147483648-7--2147483648--2147483648--2147483648-0--2147483648-1-"
-            "(0-0-0-0-0-1-1)-1");
+  config.SetBreakDayOfWeek(0, false);
+  config.SetBreakDayOfWeek(6, false);
+  for (int day = 0; day < 7; ++day) {
+    config.SetBreakDayOfWeek(day, true);
+    EXPECT_TRUE(config.IsBreakDayOfWeek(day));
+    std::string key = "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-0-0)-1";
+    key[static_cast<std::size_t>(19 + (day + 6) % 7 * 2)] = '1';
+    EXPECT_EQ(config.GetConfigKey(), key);
+    config.SetBreakDayOfWeek(day, false);
+    EXPECT_FALSE(config.IsBreakDayOfWeek(day));
+  }
 }
 
 }  // namespace
