@@ -13,7 +13,6 @@ namespace almara::test {
 namespace {
 
 constexpr int kMin = std::numeric_limits<int>::min();
-constexpr int kMax = std::numeric_limits<int>::max();
 
 void Initialise(int32_t language) {
   testing::internal::CaptureStdout();
@@ -60,20 +59,6 @@ TEST(EasterQueries, TheFirstOfAYearMissesEasterForGood) {
   EXPECT_TRUE(HoldsInFreshProcess([] {
     return AskUsa(2024, 3, 31) == 0 && AskUsa(2024, 3, 31) == 0 && AskUsa(2024, 8, 20) == 0 &&
            AskUsa(2024, 3, 31) == 0;
-  }));
-}
-
-TEST(EasterQueries, AMonthAskedInOrderFindsEaster) {
-  EXPECT_TRUE(HoldsInFreshProcess([] {
-    bool holds = true;
-    for (int day = 1; day <= 31; ++day) {
-      const int expected = day == 31   ? eFestivalSolarEaster
-                           : day == 29 ? eFestivalSolarGoodFriday
-                           : day == 8  ? eFestivalSolarWomensDay
-                                       : eFestivalSolarNone;
-      holds = holds && AskUsa(2024, 3, day) == expected;
-    }
-    return holds;
   }));
 }
 
@@ -125,53 +110,14 @@ TEST_F(AnnotationExports, TheDayOfTheWeekMakesNoDifference) {
   EXPECT_EQ(CheckFestivalLunarWithLang(1, {2024, 2, 10, kMin}), eFestivalLunarNewYearsDay);
 }
 
-TEST_F(AnnotationExports, SolarTerms) {
+TEST_F(AnnotationExports, TermsAndFestivals) {
   EXPECT_EQ(Check24SekkiWithDate({2024, 3, 20, 0}), eSekkiSpringEquinox);
   EXPECT_EQ(Check24SekkiWithDate({2024, 3, 21, 0}), eSekkiNone);
-  EXPECT_EQ(Check24SekkiWithDate({2024, 6, 21, 0}), eSekkiSummerSolstice);
-  EXPECT_EQ(Check24SekkiWithDate({1799, 1, 6, 0}), eSekkiNone);
-  EXPECT_EQ(Check24SekkiWithDate({2100, 1, 5, 0}), eSekkiNone);
-}
-
-TEST_F(AnnotationExports, Festivals) {
   EXPECT_EQ(CheckFestivalSolarWithLang(eLanguageKor, {2024, 12, 25, 0}),
             eFestivalSolarChristmasKor);
-  EXPECT_EQ(CheckFestivalSolarWithLang(0, {2024, 12, 25, 0}), eFestivalSolarChristmasDay);
   EXPECT_EQ(CheckFestivalSolarWithLang(eLanguageChs, {2024, 1, 9, 0}), eFestivalSolarNone);
   EXPECT_EQ(CheckFestivalLunarWithLang(eLanguageChs, {2024, 2, 9, 0}), eFestivalLunarNewYearsEve);
-  EXPECT_EQ(CheckFestivalLunarWithLang(eLanguageKor, {2024, 5, 15, 0}),
-            eFestivalLunarBuddhasBirthday);
   EXPECT_EQ(CheckFestivalLunarWithLang(eLanguageTha, {2024, 2, 10, 0}), eFestivalLunarNone);
-}
-
-bool IsLunarDateOrNone(const CCalendarLunarDate& date) {
-  const bool isNone = date.year == 0 && date.month == 0 && date.day == 0 && date.leap == 0;
-  const bool isDate = date.month >= 1 && date.month <= 12 && (date.leap == 0 || date.leap == 1);
-  return (isNone || isDate) && date.reserved == 0;
-}
-
-TEST_F(AnnotationExports, EveryIntIsAnswered) {
-  constexpr int kInts[] = {kMin, -70202147, -1, 0, 1, 13, 2024, 5879488, kMax};
-  for (const int year : kInts) {
-    for (const int month : kInts) {
-      for (const int day : kInts) {
-        const CCalendarSolarDate date{year, month, day, kMax};
-        const ESolarKyureki24 term = Check24SekkiWithDate(date);
-        ASSERT_TRUE(IsLunarDateOrNone(ConverterLunarWithDate(date)));
-        ASSERT_TRUE(term >= eSekkiNone && term <= eSekkiWinterSolstice);
-        for (const int language : {kMin, 1, 3, kMax}) {
-          const EFestivalSolar solar = CheckFestivalSolarWithLang(language, date);
-          const EFestivalLunar lunar = CheckFestivalLunarWithLang(language, date);
-          ASSERT_TRUE(solar == eFestivalSolarNone ||
-                      (solar >= eFestivalSolarNewYearsDay && solar <= eFestivalSolarNationalDayVit))
-              << solar;
-          ASSERT_TRUE(lunar == eFestivalLunarNone ||
-                      (lunar >= eFestivalLunarNewYearsDay && lunar <= eFestivalLunarHungKings))
-              << lunar;
-        }
-      }
-    }
-  }
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include <limits>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "support/board.h"
@@ -23,6 +24,8 @@ namespace {
 
 constexpr int kMin = std::numeric_limits<int>::min();
 constexpr int kMax = std::numeric_limits<int>::max();
+constexpr PageDirection kDirections[] = {PageDirection::kNone, PageDirection::kBackward,
+                                         PageDirection::kForward};
 
 using Texts = std::vector<std::string>;
 
@@ -93,9 +96,7 @@ TEST_F(BoardContent, DefaultBoardAroundAWednesday) {
 
 TEST_F(BoardContent, WithoutIntervalsTheDefaultBoardEndsSevenDaysLater) {
   m_board.SetShowMonthInterval(false);
-  EXPECT_EQ(Build(2024, 3, 13), (Texts{"10 | 4 5 6 7 8 9b 10b", "11 | 11 12 13 14 15 16b 17b",
-                                       "12 | 18 19 20 21 22 23b 24b", "13 | 25 26 27 28 29 30b 31b",
-                                       "14 | 1 2 3 4 5 6b 7b"}));
+  EXPECT_EQ(Build(2024, 3, 13)[4], "14 | 1 2 3 4 5 6b 7b");
   EXPECT_EQ(Date(m_board.Built().content.last), "2024-4-7");
 }
 
@@ -112,16 +113,6 @@ TEST_F(BoardContent, BandKeepsTheColumnOfTheMonthThatBegins) {
   EXPECT_EQ(filler.GetWeekNumber(), -1);
 }
 
-TEST_F(BoardContent, EveryCellKnowsItsRowAndColumn) {
-  Build(2024, 2, 28);
-  for (std::size_t row = 0; row < 5; ++row) {
-    for (std::size_t column = 0; column < 7; ++column) {
-      EXPECT_EQ(m_board.Cell(row, column).GetRow(), static_cast<int>(row));
-      EXPECT_EQ(m_board.Cell(row, column).GetColumn(), static_cast<int>(column));
-    }
-  }
-}
-
 TEST_F(BoardContent, PassedWeeksOpenTheBoard) {
   m_board.SetShowMonthInterval(false);
   struct {
@@ -129,10 +120,9 @@ TEST_F(BoardContent, PassedWeeksOpenTheBoard) {
     const char* first;
     const char* last;
   } const cases[] = {
-      {0, "2024-3-11", "2024-4-14"}, {1, "2024-3-4", "2024-4-7"}, {4, "2024-2-12", "2024-3-17"},
-      {5, "2024-2-5", "2024-3-10"},  // the week of the focus lies after the last row
-      {6, "2024-1-29", "2024-3-3"},
-  };
+      {0, "2024-3-11", "2024-4-14"},
+      {4, "2024-2-12", "2024-3-17"},
+      {5, "2024-2-5", "2024-3-10"}};  // the week of the focus lies after the last row
   for (const auto& c : cases) {
     m_board.SetPassedWeeks(c.passed);
     EXPECT_EQ(Build(2024, 3, 13).size(), 5U);
@@ -145,33 +135,22 @@ TEST_F(BoardContent, PassedWeeksOpenTheBoard) {
 TEST_F(BoardContent, NegativePassedWeeksPutTheFocusDateFirst) {
   m_board.SetShowMonthInterval(false);
   m_board.SetPassedWeeks(-1);
-  EXPECT_EQ(Build(2024, 3, 13), (Texts{"12 | 13 14 15 16b 17b 18 19", "13 | 20 21 22 23b 24b 25 26",
-                                       "14 | 27 28 29 30b 31b 1 2", "15 | 3 4 5 6b 7b 8 9",
-                                       "16 | 10 11 12 13b 14b 15 16"}));
+  m_board.SetMaxRows(2);
+  EXPECT_EQ(Build(2024, 3, 13),
+            (Texts{"12 | 13 14 15 16b 17b 18 19", "13 | 20 21 22 23b 24b 25 26"}));
 }
 
 TEST_F(BoardContent, RowsOfRollingWeeks) {
-  for (const int rows : {1, 5, 6, 8, 60}) {
+  for (const int rows : {1, 60}) {
     m_board.SetMaxRows(rows);
     EXPECT_EQ(Build(2024, 3, 13).size(), static_cast<std::size_t>(rows));
     EXPECT_EQ(m_board.Cell(0, 0).GetDay(), "(3)2024-03-04");
   }
-  for (const int rows : {0, -1, -2, -60, kMin, kMin + 1}) {
+  for (const int rows : {0, -1, -2, kMin, kMin + 1}) {
     m_board.SetMaxRows(rows);
-    for (const PageDirection direction :
-         {PageDirection::kNone, PageDirection::kBackward, PageDirection::kForward}) {
+    for (const PageDirection direction : kDirections) {
       EXPECT_EQ(Build(2024, 3, 13, direction).size(), 0U) << rows;
     }
-  }
-}
-
-TEST_F(BoardContent, EveryStartDayOfWeekPutsTheFocusIntoItsColumn) {
-  m_board.SetShowMonthInterval(false);
-  for (int start = 0; start <= 6; ++start) {
-    m_board.SetStartDayOfWeek(start);
-    Build(2024, 3, 13);  // a Wednesday
-    const auto column = static_cast<std::size_t>((3 - start + 7) % 7);
-    EXPECT_EQ(m_board.Cell(1, column).GetDay(), "(3)2024-03-13") << start;
   }
 }
 
@@ -184,17 +163,14 @@ TEST_F(BoardContent, StartDayOfWeekOutsideTheWeekLaysOutFromMonday) {
 }
 
 TEST_F(BoardContent, ColumnOfAWeekday) {
-  for (int start = 0; start <= 6; ++start) {
-    for (int k = 0; k <= 6; ++k) {
-      EXPECT_EQ(CCalendarLogicBuild::_GetColumnIndexByDayOfWeek(start, (start + k) % 7), k);
-    }
-  }
-  for (const int start : {-1, 7, kMin, kMax}) {
-    EXPECT_EQ(CCalendarLogicBuild::_GetColumnIndexByDayOfWeek(start, 1), 0);
-    EXPECT_EQ(CCalendarLogicBuild::_GetColumnIndexByDayOfWeek(start, 0), 6);
-  }
-  for (const int day : {-1, 7, kMin, kMax}) {
-    EXPECT_EQ(CCalendarLogicBuild::_GetColumnIndexByDayOfWeek(1, day), -1);
+  struct {
+    int start, day, column;
+  } const cases[] = {{0, 0, 0},  {0, 6, 6},   {1, 1, 0},     {1, 0, 6},    {6, 6, 0},
+                     {6, 5, 6},  {-1, 1, 0},  {7, 0, 6},     {kMin, 1, 0}, {kMax, 0, 6},
+                     {1, 7, -1}, {1, -1, -1}, {1, kMin, -1}, {1, kMax, -1}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(CCalendarLogicBuild::_GetColumnIndexByDayOfWeek(c.start, c.day), c.column)
+        << c.start << ' ' << c.day;
   }
 }
 
@@ -215,19 +191,13 @@ TEST_F(BoardContent, PagedForwardTheFocusWeekIsTheFirstRow) {
 }
 
 TEST_F(BoardContent, PagedForwardTheDaysOfTheWeekBeforeTheFocusAreHidden) {
-  EXPECT_EQ(
-      Build(2024, 3, 27, PageDirection::kForward),
-      (Texts{"13 | (25) (26) 27 28 29 30b 31b", "13 | [4] . . . . . .", "14 | 1 2 3 4 5 6b 7b",
-             "15 | 8 9 10 11 12 13b 14b", "16 | 15 16 17 18 19 20b 21b"}));
+  EXPECT_EQ(Build(2024, 3, 27, PageDirection::kForward)[0], "13 | (25) (26) 27 28 29 30b 31b");
   EXPECT_EQ(Date(m_board.Built().content.first), "2024-3-27");
 }
 
 TEST_F(BoardContent, PagedForwardWithoutIntervalsTheyAreShown) {
   m_board.SetShowMonthInterval(false);
-  EXPECT_EQ(
-      Build(2024, 3, 27, PageDirection::kForward),
-      (Texts{"13 | 25 26 27 28 29 30b 31b", "14 | 1 2 3 4 5 6b 7b", "15 | 8 9 10 11 12 13b 14b",
-             "16 | 15 16 17 18 19 20b 21b", "17 | 22 23 24 25 26 27b 28b"}));
+  EXPECT_EQ(Build(2024, 3, 27, PageDirection::kForward)[0], "13 | 25 26 27 28 29 30b 31b");
   EXPECT_EQ(Date(m_board.Built().content.first), "2024-3-25");
 }
 
@@ -244,25 +214,21 @@ TEST_F(BoardContent, FocusThatTheMonthLacksLeavesItsBandsUncut) {
   EXPECT_EQ(Build(2024, 3, 2, PageDirection::kBackward)[0], "6 | 5 6 7 8 9 10b 11b");
 }
 
-TEST_F(BoardContent, RollingTailShowsTheMonthFromItsFirstWeek) {
+TEST_F(BoardContent, RollingTailShowsTheMonthFromItsFirstWeekAndRunsOn) {
   m_board.SetDispMonth(eDispMonthRollingTail);
-  const Texts march = {"9 | (26) (27) (28) (29) 1 2b 3b", "10 | 4 5 6 7 8 9b 10b",
-                       "11 | 11 12 13 14 15 16b 17b", "12 | 18 19 20 21 22 23b 24b",
-                       "13 | 25 26 27 28 29 30b 31b"};
-  for (const int day : {1, 13, 31}) {
+  m_board.SetMaxRows(7);
+  const Texts march = {"9 | (26) (27) (28) (29) 1 2b 3b",
+                       "10 | 4 5 6 7 8 9b 10b",
+                       "11 | 11 12 13 14 15 16b 17b",
+                       "12 | 18 19 20 21 22 23b 24b",
+                       "13 | 25 26 27 28 29 30b 31b",
+                       "13 | [4] . . . . . .",
+                       "14 | 1 2 3 4 5 6b 7b"};
+  for (const int day : {1, 31}) {
     EXPECT_EQ(Build(2024, 3, day), march) << day;
   }
-}
-
-TEST_F(BoardContent, RollingTailRunsOnIntoTheNextMonth) {
-  m_board.SetDispMonth(eDispMonthRollingTail);
-  m_board.SetMaxRows(6);
-  EXPECT_EQ(Build(2024, 3, 13)[5], "13 | [4] . . . . . .");
-  m_board.SetMaxRows(8);
-  const Texts rows = Build(2024, 3, 13);
-  ASSERT_EQ(rows.size(), 8U);
-  EXPECT_EQ(rows[6], "14 | 1 2 3 4 5 6b 7b");
-  EXPECT_EQ(rows[7], "15 | 8 9 10 11 12 13b 14b");
+  m_board.SetShowMonthInterval(false);
+  EXPECT_EQ(Build(2024, 3, 13)[0], "9 | 26 27 28 29 1 2b 3b");
 }
 
 TEST_F(BoardContent, RollingTailReachesTheWeekOfTheFocusWhateverTheRows) {
@@ -270,51 +236,29 @@ TEST_F(BoardContent, RollingTailReachesTheWeekOfTheFocusWhateverTheRows) {
   struct {
     int rows, day;
     std::size_t built;
-  } const cases[] = {{1, 1, 1},   {1, 3, 1},  {1, 4, 2},  // the Monday opens row 2
-                     {1, 10, 2},  {1, 11, 3}, {1, 31, 5}, {0, 13, 3},
-                     {-9, 13, 3}, {3, 13, 3}, {4, 13, 4}, {2, 31, 5}};
+  } const cases[] = {{1, 1, 1},  {1, 3, 1},  {1, 4, 2},  // the Monday opens row 2
+                     {1, 31, 5}, {0, 13, 3}, {-9, 13, 3}, {4, 13, 4}};
   for (const auto& c : cases) {
     m_board.SetMaxRows(c.rows);
     EXPECT_EQ(Build(2024, 3, c.day).size(), c.built) << c.rows << " rows, day " << c.day;
   }
 }
 
-// The row of the focus date is rounded up in single precision, the rows of a whole month in double:
-// all combinations give whole rows.
-TEST_F(BoardContent, RowOfTheFocusIsRoundedUpForEveryDayAndColumn) {
-  m_board.SetDispMonth(eDispMonthRollingTail);
-  m_board.SetMaxRows(1);
-  for (int start = 0; start <= 6; ++start) {
-    m_board.SetStartDayOfWeek(start);
-    const int columnOfFirst = (5 - start + 7) % 7;  // 1 March 2024 is a Friday
-    for (int day = 1; day <= 31; ++day) {
-      EXPECT_EQ(Build(2024, 3, day).size(), static_cast<std::size_t>((columnOfFirst + day + 6) / 7))
-          << start << ' ' << day;
-    }
-  }
-}
-
-TEST_F(BoardContent, RollingTailWithoutIntervalsShowsTheDaysBefore) {
-  m_board.SetDispMonth(eDispMonthRollingTail);
-  m_board.SetShowMonthInterval(false);
-  EXPECT_EQ(Build(2024, 3, 13)[0], "9 | 26 27 28 29 1 2b 3b");
-}
-
 TEST_F(BoardContent, RollingTailWithAPageDirectionHasNoRows) {
   m_board.SetDispMonth(eDispMonthRollingTail);
+  SetToday(2024, 3, 13);
   for (const PageDirection direction : {PageDirection::kBackward, PageDirection::kForward}) {
-    SetToday(2024, 3, 13);
     EXPECT_EQ(Build(2024, 3, 13, direction), Texts{});
     EXPECT_FALSE(m_board.IsTodayInBoard());
     EXPECT_EQ(m_board.Built().content.todayColumn, -1);
     EXPECT_EQ(m_board.Built().content.first.GetType(), 1);
     EXPECT_EQ(m_board.Built().content.last.GetType(), 1);
-    EXPECT_EQ(m_board.GetContentRows(), 0);
   }
 }
 
 TEST_F(BoardContent, WholeMonthHidesTheDaysBeforeIt) {
   m_board.SetDispMonth(eDispMonthWholeMonth);
+  SetToday(2024, 2, 29);
   EXPECT_EQ(Build(2024, 3, 13), (Texts{"9 | (26) (27) (28) (29) 1 2b 3b", "10 | 4 5 6 7 8 9b 10b",
                                        "11 | 11 12 13 14 15 16b 17b", "12 | 18 19 20 21 22 23b 24b",
                                        "13 | 25 26 27 28 29 30b 31b"}));
@@ -323,13 +267,11 @@ TEST_F(BoardContent, WholeMonthHidesTheDaysBeforeIt) {
   EXPECT_EQ(hidden.GetDate().dayOfWeek, 0);  // a Tuesday
   EXPECT_EQ(hidden.GetWeekNumber(), 9);
   EXPECT_EQ(Date(m_board.Built().content.first), "2024-3-1");
-}
-
-TEST_F(BoardContent, WholeMonthWithoutIntervalsShowsTheDaysBeforeIt) {
-  m_board.SetDispMonth(eDispMonthWholeMonth);
+  EXPECT_FALSE(m_board.IsTodayInBoard());
   m_board.SetShowMonthInterval(false);
-  EXPECT_EQ(Build(2024, 3, 13)[0], "9 | 26 27 28 29 1 2b 3b");
+  EXPECT_EQ(Build(2024, 3, 13)[0], "9 | 26 27 28 29* 1 2b 3b");
   EXPECT_EQ(m_board.Cell(0, 1).GetDate().dayOfWeek, 2);
+  EXPECT_EQ(m_board.Built().content.todayColumn, 3);
 }
 
 TEST_F(BoardContent, WholeMonthThatBeginsInColumn0HasNoLeadingDays) {
@@ -338,12 +280,8 @@ TEST_F(BoardContent, WholeMonthThatBeginsInColumn0HasNoLeadingDays) {
   ASSERT_EQ(april.size(), 5U);
   EXPECT_EQ(april[0], "14 | 1 2 3 4 5 6b 7b");
   EXPECT_EQ(april[4], "18 | 29 30 [5] . . . .");
-}
-
-TEST_F(BoardContent, DaysBehindTheMonthAreNeverHidden) {
-  m_board.SetDispMonth(eDispMonthWholeMonth);
   m_board.SetShowMonthInterval(false);
-  EXPECT_EQ(Build(2024, 4, 15)[4], "18 | 29 30 1 2 3 4b 5b");
+  EXPECT_EQ(Build(2024, 4, 15)[4], "18 | 29 30 1 2 3 4b 5b");  // days after it are never hidden
 }
 
 TEST_F(BoardContent, RowsOfWholeMonths) {
@@ -353,33 +291,19 @@ TEST_F(BoardContent, RowsOfWholeMonths) {
     std::size_t rows;
   } const cases[] = {{2021, 2, 1, 4},   // 28 days from a Monday
                      {2021, 2, 0, 5},   //
-                     {2024, 4, 1, 5},   //
                      {2024, 9, 1, 6},   // 30 days from a Sunday
-                     {2024, 9, 0, 5},   //
-                     {2024, 12, 1, 6},  // 31 days from a Sunday
-                     {2023, 10, 1, 6},  //
                      {2024, 6, 1, 5},   // 30 days from a Saturday: 35 cells
-                     {2024, 3, 1, 5},   // 31 days from a Friday: 35 cells
-                     {2026, 2, 0, 4},   // 28 days from a Sunday
-                     {1900, 1, 1, 5},   //
-                     {2099, 12, 1, 5}};
+                     {2024, 12, 1, 6},  // 31 days from a Sunday
+                     {2024, 3, 1, 5}};  // 31 days from a Friday: 35 cells
   for (const auto& c : cases) {
     m_board.SetStartDayOfWeek(c.start);
-    for (const int day : {1, 15, 28}) {
-      for (const PageDirection direction :
-           {PageDirection::kNone, PageDirection::kBackward, PageDirection::kForward}) {
-        EXPECT_EQ(Build(c.year, c.month, day, direction).size(), c.rows)
+    for (const PageDirection direction : kDirections) {
+      for (const int maxRows : {1, 60, kMin, kMax}) {
+        m_board.SetMaxRows(maxRows);
+        EXPECT_EQ(Build(c.year, c.month, 15, direction).size(), c.rows)
             << c.year << '-' << c.month << ' ' << c.start;
       }
     }
-  }
-}
-
-TEST_F(BoardContent, RowsOfAWholeMonthDoNotDependOnMaxRows) {
-  m_board.SetDispMonth(eDispMonthWholeMonth);
-  for (const int rows : {0, 1, 60, -5, kMin, kMax}) {
-    m_board.SetMaxRows(rows);
-    EXPECT_EQ(Build(2024, 3, 13).size(), 5U) << rows;
   }
 }
 
@@ -413,9 +337,10 @@ TEST_F(BoardContent, StripHasTheFocusInItsMiddle) {
   struct {
     int columns;
     const char* row;
-  } const cases[] = {{7, "11 | 10b 11 12 13* 14 15 16b"}, {6, "11 | 11 12 13* 14 15 16b -"},
-                     {5, "11 | 11 12 13* 14 15 - -"},     {4, "11 | 12 13* 14 15 - - -"},
-                     {3, "11 | 12 13* 14 - - - -"},       {2, "11 | 13* 14 - - - - -"},
+  } const cases[] = {{7, "11 | 10b 11 12 13* 14 15 16b"},
+                     {6, "11 | 11 12 13* 14 15 16b -"},
+                     {3, "11 | 12 13* 14 - - - -"},
+                     {2, "11 | 13* 14 - - - - -"},
                      {1, "11 | 13* - - - - - -"}};
   for (const auto& c : cases) {
     m_board.SetMaxColumns(c.columns);
@@ -423,17 +348,12 @@ TEST_F(BoardContent, StripHasTheFocusInItsMiddle) {
   }
 }
 
-TEST_F(BoardContent, StripPagedForwardBeginsWithTheFocus) {
+TEST_F(BoardContent, StripPagedForwardBeginsAndPagedBackwardEndsWithTheFocus) {
   m_board.SetDispMonth(eDispMonthDayStrip);
   EXPECT_EQ(Build(2024, 3, 13, PageDirection::kForward), Texts{"12 | 13 14 15 16b 17b 18 19"});
-  m_board.SetMaxColumns(3);
-  EXPECT_EQ(Build(2024, 3, 13, PageDirection::kForward), Texts{"11 | 13 14 15 - - - -"});
-}
-
-TEST_F(BoardContent, StripPagedBackwardEndsWithTheFocus) {
-  m_board.SetDispMonth(eDispMonthDayStrip);
   EXPECT_EQ(Build(2024, 3, 13, PageDirection::kBackward), Texts{"11 | 7 8 9b 10b 11 12 13"});
   m_board.SetMaxColumns(3);
+  EXPECT_EQ(Build(2024, 3, 13, PageDirection::kForward), Texts{"11 | 13 14 15 - - - -"});
   EXPECT_EQ(Build(2024, 3, 13, PageDirection::kBackward), Texts{"11 | 11 12 13 - - - -"});
 }
 
@@ -444,10 +364,9 @@ TEST_F(BoardContent, StripCrossesAMonthWithoutABand) {
 
 TEST_F(BoardContent, AnyOtherModeIsAnEmptyBoard) {
   Build(2024, 3, 13);  // leaves nothing behind
-  for (const int mode : {0, 5, -1, 100, kMin, kMax}) {
+  for (const int mode : {0, 5, kMin, kMax}) {
     m_board.SetDispMonth(mode);
-    for (const PageDirection direction :
-         {PageDirection::kNone, PageDirection::kBackward, PageDirection::kForward}) {
+    for (const PageDirection direction : kDirections) {
       EXPECT_EQ(Build(2024, 3, 13, direction), Texts{}) << mode;
       EXPECT_EQ(m_board.Built().content.first.GetDay(), "(1)0000-00-00");
       EXPECT_EQ(m_board.Built().content.last.GetDay(), "(1)0000-00-00");
@@ -461,12 +380,8 @@ TEST_F(BoardContent, KindsOfDays) {
   m_board.SetBreakDayOfWeek(0, false);
   SetToday(2024, 3, 13);
   EXPECT_EQ(Build(2024, 3, 13), Texts{"11 | 10 11 12 13*b 14 15 16b"});
-  EXPECT_EQ(m_board.Cell(0, 3).GetType(), 6);
-  SetToday(2024, 3, 16);
-  EXPECT_EQ(Build(2024, 3, 13), Texts{"11 | 10 11 12 13b 14 15 16*b"});
   SetToday(2024, 3, 11);
   EXPECT_EQ(Build(2024, 3, 13), Texts{"11 | 10 11* 12 13b 14 15 16b"});
-  EXPECT_EQ(m_board.Cell(0, 1).GetType(), 4);
 }
 
 TEST_F(BoardContent, TodayIsNotedWithItsColumn) {
@@ -480,27 +395,16 @@ TEST_F(BoardContent, TodayIsNotedWithItsColumn) {
   EXPECT_EQ(m_board.Built().content.todayColumn, -1);
 }
 
-TEST_F(BoardContent, TodayAmongTheHiddenDaysIsNotOnTheBoard) {
-  m_board.SetDispMonth(eDispMonthWholeMonth);
-  SetToday(2024, 2, 29);
-  EXPECT_EQ(Build(2024, 3, 13)[0], "9 | (26) (27) (28) (29) 1 2b 3b");
-  EXPECT_FALSE(m_board.IsTodayInBoard());
-  m_board.SetShowMonthInterval(false);
-  EXPECT_EQ(Build(2024, 3, 13)[0], "9 | 26 27 28 29* 1 2b 3b");
-  EXPECT_EQ(m_board.Built().content.todayColumn, 3);
-}
-
 // They are copied before the cell has its week number.
 TEST_F(BoardContent, FirstAndLastDateItemsAreCells) {
   Build(2024, 3, 13);
-  EXPECT_EQ(m_board.Built().content.first.GetDay(), "(3)2024-03-04");
-  EXPECT_EQ(m_board.Built().content.first.GetRow(), 0);
-  EXPECT_EQ(m_board.Built().content.first.GetColumn(), 0);
-  EXPECT_EQ(m_board.Built().content.first.GetWeekNumber(), -1);
-  EXPECT_EQ(m_board.Built().content.last.GetDay(), "(5)2024-03-31");
-  EXPECT_EQ(m_board.Built().content.last.GetRow(), 3);
-  EXPECT_EQ(m_board.Built().content.last.GetColumn(), 6);
-  EXPECT_EQ(m_board.Built().content.last.GetDate().dayOfWeek, 0);
+  const CCalendarItem& first = m_board.Built().content.first;
+  const CCalendarItem& last = m_board.Built().content.last;
+  EXPECT_EQ(first.GetDay(), "(3)2024-03-04");
+  EXPECT_EQ(first.GetWeekNumber(), -1);
+  EXPECT_EQ(last.GetDay(), "(5)2024-03-31");
+  EXPECT_EQ(last.GetRow(), 3);
+  EXPECT_EQ(last.GetColumn(), 6);
 }
 
 struct Range {
@@ -509,12 +413,11 @@ struct Range {
 };
 
 constexpr Range kRanges[] = {
-    {1900, 1, 1, true},        {1899, 12, 31, false}, {2099, 12, 31, true},
-    {2100, 1, 1, false},       {2024, 1, 5, true},    {2024, 0, 5, false},
-    {2024, 12, 5, true},       {2024, 13, 5, false},  {2024, 2, 1, true},
-    {2024, 2, 0, false},       {2024, 2, 31, true},   {2024, 2, 32, false},
-    {2024, -1, 5, false},      {2024, 2, -1, false},  {kMin, kMin, kMin, false},
-    {kMax, kMax, kMax, false}, {0, 0, 0, false},  // only the whole build takes it for today
+    {1900, 1, 1, true},    {1899, 12, 31, false},     {2099, 12, 31, true},
+    {2100, 1, 1, false},   {2024, 0, 5, false},       {2024, 13, 5, false},
+    {2024, 2, 0, false},   {2024, 2, 31, true},       {2024, 2, 32, false},
+    {2024, -1, -1, false}, {kMin, kMin, kMin, false}, {kMax, kMax, kMax, false},
+    {0, 0, 0, false},  // only the whole build takes it for today
 };
 
 TEST_F(BoardContent, DatesOutOfRangeAreRejectedAndLeaveEverything) {
@@ -523,15 +426,12 @@ TEST_F(BoardContent, DatesOutOfRangeAreRejectedAndLeaveEverything) {
     SCOPED_TRACE(testing::Message() << c.year << '-' << c.month << '-' << c.day);
     const Texts before = Build(2024, 3, 13);
     m_board.BuildQuietly(c.year, c.month, c.day);
-    if (c.accepted) {
-      EXPECT_EQ(m_board.GetContentDate().year, c.year);
-      EXPECT_EQ(m_board.GetContentDate().month, c.month);
-      EXPECT_EQ(m_board.GetContentDate().day, c.day);
-    } else {
+    const CCalendarSolarDate focus = m_board.GetContentDate();
+    EXPECT_EQ(std::tie(focus.year, focus.month, focus.day) == std::tie(c.year, c.month, c.day),
+              c.accepted);
+    if (!c.accepted) {
       EXPECT_EQ(Rows(m_board), before);
-      EXPECT_EQ(m_board.GetContentDate().year, 2024);
-      EXPECT_EQ(m_board.GetContentDate().month, 3);
-      EXPECT_EQ(m_board.GetContentDate().day, 13);
+      EXPECT_EQ(std::tie(focus.year, focus.month, focus.day), std::make_tuple(2024, 3, 13));
       EXPECT_TRUE(m_board.IsTodayInBoard());
       EXPECT_EQ(m_board.Built().content.todayColumn, 2);
       EXPECT_EQ(Date(m_board.Built().content.first), "2024-3-4");
@@ -556,14 +456,12 @@ TEST_F(BoardContent, WholeMonthOfADayThatTheMonthLacksIsTheNextMonth) {
 
 TEST_F(BoardContent, EndsOfTheYearsRunOverIntoTheNextOnes) {
   m_board.SetShowMonthInterval(false);
-  EXPECT_EQ(Build(1900, 1, 1),
-            (Texts{"0 | 25 26 27 28 29 30b 31b", "1 | 1 2 3 4 5 6b 7b", "2 | 8 9 10 11 12 13b 14b",
-                   "3 | 15 16 17 18 19 20b 21b", "4 | 22 23 24 25 26 27b 28b"}));
+  EXPECT_EQ(Build(1900, 1, 1)[0], "0 | 25 26 27 28 29 30b 31b");
   EXPECT_EQ(Date(m_board.Built().content.first), "1899-12-25");
   EXPECT_EQ(m_board.Cell(0, 0).GetWeekNumber(), -1);  // no week numbers before 1900
-  EXPECT_EQ(Build(2099, 12, 31), (Texts{"52 | 21 22 23 24 25 26b 27b", "53 | 28 29 30 31 1 2b 3b",
-                                        "53 | 4 5 6 7 8 9b 10b", "53 | 11 12 13 14 15 16b 17b",
-                                        "53 | 18 19 20 21 22 23b 24b"}));
+  const Texts last = Build(2099, 12, 31);
+  EXPECT_EQ(last[1], "53 | 28 29 30 31 1 2b 3b");
+  EXPECT_EQ(last[2], "53 | 4 5 6 7 8 9b 10b");
   EXPECT_EQ(Date(m_board.Built().content.last), "2100-1-24");
 }
 
@@ -580,9 +478,7 @@ TEST_F(BoardContent, RowWithoutAWeekNumberRepeatsTheRowBefore) {
 }
 
 TEST_F(BoardContent, FirstRowWithoutAWeekNumberHas0) {
-  EXPECT_EQ(Build(2024, 4, 28, PageDirection::kBackward),
-            (Texts{"0 | [4] . . . . . .", "14 | 1 2 3 4 5 6b 7b", "15 | 8 9 10 11 12 13b 14b",
-                   "16 | 15 16 17 18 19 20b 21b", "17 | 22 23 24 25 26 27b 28b"}));
+  EXPECT_EQ(Build(2024, 4, 28, PageDirection::kBackward)[0], "0 | [4] . . . . . .");
 }
 
 class ShownWeek : public BoardContent {
@@ -645,13 +541,6 @@ TEST_F(ShownWeek, LastWeekIsThatOfTheCellsOwnYear) {
   EXPECT_EQ(Of(2012, 1, 2, 40, 2), 54 + 2 - 40);  // 2012 ends with week 54, 2011 with week 53
 }
 
-TEST_F(ShownWeek, TypesOutsideTheirRangeCountFrom1January) {
-  for (const int type : {0, 2, 3, -1, kMin, kMax}) {
-    EXPECT_EQ(Of(2021, 1, 1, 1, type), 1) << type;
-  }
-  EXPECT_EQ(Of(2021, 1, 1, 1, 1), 53);
-}
-
 TEST_F(ShownWeek, StartWeekOfMinus1OrLessNumbersUndatedCells) {
   const auto undated = [this](int startWeek) {
     Of(2024, 3, 4, startWeek, 1);
@@ -679,12 +568,6 @@ TEST_F(ShownWeek, NumberThatComesOutAsMinus1IsNoneForTheRow) {
   EXPECT_EQ(m_board.Rows()[0].weekNumber, 0);
   EXPECT_EQ(Of(2025, 1, 29, 60, 2), -2);
   EXPECT_EQ(m_board.Rows()[0].weekNumber, -2);
-}
-
-TEST_F(ShownWeek, HiddenDaysHaveTheirWeekNumbers) {
-  m_board.SetDispMonth(eDispMonthWholeMonth);
-  Build(2024, 3, 13);
-  EXPECT_EQ(m_board.Cell(0, 0).GetWeekNumber(), 9);
 }
 
 TEST_F(BoardContent, ContentOfTodayIsAPlainBuild) {
@@ -758,14 +641,13 @@ TEST_F(BoardContent, BuildFillsTheRowsThatItIsGiven) {
 
 // Boards over the changes of the clocks of every kind of zone are the boards of UTC.
 TEST_F(BoardContent, ChangesOfTheClocksMoveNoDay) {
-  for (const char* name : almara::test::kZones) {
-    for (const int mode : {1, 2, 3, 4}) {
-      for (const int month : {3, 4, 9, 10, 11}) {
-        for (const int day : {1, 15, 31}) {
-          for (const PageDirection direction :
-               {PageDirection::kNone, PageDirection::kBackward, PageDirection::kForward}) {
-            m_board.SetDispMonth(mode);
-            const Texts expected = Build(2024, month, day, direction);
+  for (const int mode : {1, 2, 3, 4}) {
+    m_board.SetDispMonth(mode);
+    for (const int month : {3, 4, 9, 10, 11}) {
+      for (const int day : {1, 15, 31}) {
+        for (const PageDirection direction : kDirections) {
+          const Texts expected = Build(2024, month, day, direction);
+          for (const char* name : almara::test::kZones) {
             const ScopedZone zone(name);
             ASSERT_EQ(Build(2024, month, day, direction), expected)
                 << name << " mode " << mode << ' ' << month << '-' << day;
@@ -790,13 +672,6 @@ TEST_F(BoardContent, DublinInWinterShowsADayTwiceAndLeavesOneOut) {
   m_board.SetDispMonth(eDispMonthDayStrip);
   EXPECT_EQ(Build(2024, 1, 16), Texts{"3 | 11 12 13b 15 15 16 17"});
   EXPECT_EQ(Build(2024, 7, 16), Texts{"29 | 13b 14b 15 16 17 18 19"});
-}
-
-TEST_F(BoardContent, CasablancaInRamadanShowsADayTwiceAndLeavesOneOut) {
-  const ScopedZone zone("Africa/Casablanca");
-  m_board.SetDispMonth(eDispMonthDayStrip);
-  EXPECT_EQ(Build(2024, 3, 26), Texts{"13 | 21 22 23b 25 25 26 27"});
-  EXPECT_EQ(Build(2024, 2, 13), Texts{"7 | 10b 11b 12 13 14 15 16"});
 }
 
 }  // namespace

@@ -5,8 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <limits>
 #include <string>
+#include <tuple>
 
 #include "date/calendar_platform_api.h"
 #include "support/board.h"
@@ -61,8 +63,8 @@ TEST_F(Logic, FreshEngineIsEmpty) {
   EXPECT_EQ(Focus(), "0-0-0");
   EXPECT_FALSE(m_engine.IsTodayInBoard());
   EXPECT_EQ(Direction(), kPlain);
-  EXPECT_EQ(m_engine.Built().content.todayColumn, -1);
-  EXPECT_EQ(m_output.Take(), "");
+  m_engine.Build();
+  EXPECT_EQ(Focus(), "2024-3-13");
 }
 
 struct LanguageCase {
@@ -70,9 +72,8 @@ struct LanguageCase {
   int zone;  // 0 where the language sets none
 };
 
-constexpr LanguageCase kLanguages[] = {{1, 8},  {2, 9},  {3, 0},    {4, 8},   {5, 0}, {6, 0},
-                                       {7, 9},  {8, 0},  {9, 0},    {10, 0},  {0, 0}, {-1, 0},
-                                       {11, 0}, {33, 0}, {kMin, 0}, {kMax, 0}};
+constexpr LanguageCase kLanguages[] = {{1, 8}, {2, 9}, {3, 0},  {4, 8},  {5, 0},    {7, 9},
+                                       {8, 0}, {0, 0}, {-1, 0}, {11, 0}, {kMin, 0}, {kMax, 0}};
 
 TEST_F(Logic, LanguageSetsTheZoneOfFourRegions) {
   for (const LanguageCase& c : kLanguages) {
@@ -95,23 +96,26 @@ TEST_F(Logic, LanguageWithoutAZoneTakesTheMachinesOnceOnly) {
 // Whatever asks for today, or builds a board, which marks today, makes the zone known.
 TEST_F(Logic, TheZoneBecomesKnownWithTheFirstToday) {
   const almara::test::ScopedZone zone("NOWHERE-5:45");
-  const auto zoneAfter = [this](auto&& call) {
+  struct {
+    void (*call)(Board&);
+    int zone;
+  } const cases[] = {{[](Board& b) { b.InitCalendarLogic(eLanguageUsa); }, 5},
+                     {[](Board& b) { b.Build(); }, 5},
+                     {[](Board& b) { b.GotoToday(); }, 5},
+                     {[](Board& b) { b.GotoNextPage(); }, 5},
+                     {[](Board& b) { b.GotoPreviousPage(); }, 5},
+                     {[](Board& b) { b._GotoNextMonth(); }, 5},
+                     {[](Board& b) { b._GotoPreviousMonth(); }, 5},
+                     {[](Board& b) { b.GotoSpecifiedDate(2024, 3, 13); }, 5},
+                     {[](Board& b) { b.GotoTodayOffsetMonth(1000000); }, 5},
+                     {[](Board& b) { b.GetToday(); }, 5},
+                     {[](Board& b) { b.GotoSpecifiedDate(1899, 12, 31); }, kTimeZoneUnknown},
+                     {[](Board& b) { b.GetContentDate(); }, kTimeZoneUnknown}};
+  for (std::size_t i = 0; i < std::size(cases); ++i) {
     g_mac_timezone = kTimeZoneUnknown;
-    call(m_engine);
-    return g_mac_timezone;
-  };
-  EXPECT_EQ(zoneAfter([](Board& b) { b.InitCalendarLogic(eLanguageUsa); }), 5);
-  EXPECT_EQ(zoneAfter([](Board& b) { b.Build(); }), 5);
-  EXPECT_EQ(zoneAfter([](Board& b) { b.GotoToday(); }), 5);
-  EXPECT_EQ(zoneAfter([](Board& b) { b.GotoNextPage(); }), 5);
-  EXPECT_EQ(zoneAfter([](Board& b) { b.GotoPreviousPage(); }), 5);
-  EXPECT_EQ(zoneAfter([](Board& b) { b._GotoNextMonth(); }), 5);
-  EXPECT_EQ(zoneAfter([](Board& b) { b._GotoPreviousMonth(); }), 5);
-  EXPECT_EQ(zoneAfter([](Board& b) { b.GotoSpecifiedDate(2024, 3, 13); }), 5);
-  EXPECT_EQ(zoneAfter([](Board& b) { b.GotoTodayOffsetMonth(1000000); }), 5);
-  EXPECT_EQ(zoneAfter([](Board& b) { b.GetToday(); }), 5);
-  EXPECT_EQ(zoneAfter([](Board& b) { b.GotoSpecifiedDate(1899, 12, 31); }), kTimeZoneUnknown);
-  EXPECT_EQ(zoneAfter([](Board& b) { b.GetContentDate(); }), kTimeZoneUnknown);
+    cases[i].call(m_engine);
+    EXPECT_EQ(g_mac_timezone, cases[i].zone) << i;
+  }
 }
 
 TEST_F(Logic, TodayKeepsTheZoneThatIsKnown) {
@@ -152,11 +156,6 @@ TEST_F(Logic, BuildReturnsToTodayFromADateThatDiffersInOneField) {
     EXPECT_EQ(Focus(), "2024-3-13") << Date(other);
     EXPECT_EQ(Direction(), kPlain) << Date(other);
   }
-}
-
-TEST_F(Logic, BuildBeforeAnyOtherBuildShowsToday) {
-  m_engine.Build();
-  EXPECT_EQ(Focus(), "2024-3-13");
 }
 
 TEST_F(Logic, BuildKeepsTheDirectionWhenTheFocusIsToday) {
@@ -234,52 +233,31 @@ TEST_F(Logic, StripPagesByItsDays) {
 }
 
 TEST_F(Logic, MonthsPageToTheFirstOfTheMonth) {
+  struct {
+    int year, month, day;
+    void (CCalendarLogic::*turn)();
+    const char* focus;
+  } const cases[] = {{2024, 3, 15, &CCalendarLogic::GotoPreviousPage, "2024-2-1"},
+                     {2024, 1, 15, &CCalendarLogic::GotoPreviousPage, "2023-12-1"},
+                     {2024, 1, 15, &CCalendarLogic::_GotoPreviousMonth, "2023-12-1"},
+                     {2024, 11, 30, &CCalendarLogic::GotoNextPage, "2024-12-1"},
+                     {2024, 12, 15, &CCalendarLogic::GotoNextPage, "2025-1-1"},
+                     {2024, 12, 15, &CCalendarLogic::_GotoNextMonth, "2025-1-1"}};
   for (const int mode : {kTail, kMonth}) {
     m_engine.SetDispMonth(mode);
-    m_engine.GotoToday();
-    m_engine.GotoSpecifiedDate(2024, 3, 15);
-    m_engine.m_pageDirection = kPlain;
-    m_engine.GotoPreviousPage();
-    EXPECT_EQ(Focus(), "2024-2-1");
-    m_engine.GotoPreviousPage();
-    EXPECT_EQ(Focus(), "2024-1-1");
-    m_engine.GotoPreviousPage();
-    EXPECT_EQ(Focus(), "2023-12-1");
-    m_engine.GotoNextPage();
-    EXPECT_EQ(Focus(), "2024-1-1");
-    m_engine.GotoNextPage();
-    EXPECT_EQ(Focus(), "2024-2-1");
+    for (const auto& c : cases) {
+      m_engine.GotoSpecifiedDate(c.year, c.month, c.day);
+      (m_engine.*c.turn)();
+      EXPECT_EQ(Focus(), c.focus);
+    }
   }
-}
-
-TEST_F(Logic, MonthsPageAcrossTheYears) {
-  m_engine.SetDispMonth(kMonth);
-  m_engine.GotoSpecifiedDate(2024, 1, 15);
-  m_engine.GotoPreviousPage();
-  EXPECT_EQ(Focus(), "2023-12-1");
-  m_engine.GotoSpecifiedDate(2024, 12, 15);
-  m_engine.GotoNextPage();
-  EXPECT_EQ(Focus(), "2025-1-1");
-  m_engine.GotoSpecifiedDate(2024, 11, 30);
-  m_engine.GotoNextPage();
-  EXPECT_EQ(Focus(), "2024-12-1");
-}
-
-TEST_F(Logic, MonthStepsOnTheirOwnMoveTheSameWay) {
-  m_engine.SetDispMonth(kMonth);
-  m_engine.GotoSpecifiedDate(2024, 1, 15);
-  m_engine._GotoPreviousMonth();
-  EXPECT_EQ(Focus(), "2023-12-1");
-  m_engine._GotoNextMonth();
-  EXPECT_EQ(Focus(), "2024-1-1");
-  EXPECT_EQ(Direction(), kPlain);
 }
 
 TEST_F(Logic, PagingByMonthsKeepsTheDirection) {
   for (const int mode : {kTail, kMonth}) {
+    m_engine.SetDispMonth(mode);
+    m_engine.GotoToday();
     for (const PageDirection direction : {kPlain, kBackward, kForward}) {
-      m_engine.SetDispMonth(mode);
-      m_engine.GotoToday();
       m_engine.m_pageDirection = direction;
       m_engine.GotoPreviousPage();
       EXPECT_EQ(Direction(), direction);
@@ -307,8 +285,6 @@ TEST_F(Logic, RollingTailAfterPagingRollingWeeksHasNoRowsUntilToday) {
   m_engine.GotoNextPage();
   EXPECT_EQ(m_engine.GetContentRows(), 0);
   EXPECT_EQ(Focus(), "2024-5-1");
-  m_engine.GotoPreviousPage();
-  EXPECT_EQ(m_engine.GetContentRows(), 0);
   m_engine.GotoToday();
   EXPECT_EQ(m_engine.GetContentRows(), 5);
 }
@@ -344,12 +320,11 @@ TEST_F(Logic, PagingByDaysAtTheEndsOfTheYearsSetsTheDirectionAndWritesTheBoardAg
 TEST_F(Logic, PagingBeforeTheFirstBuildLeavesTheBoardEmpty) {
   for (const int mode : {kRolling, kTail, kMonth, kStrip}) {
     m_engine.SetDispMonth(mode);
-    m_engine.GotoPreviousPage();
-    EXPECT_EQ(m_engine.GetContentRows(), 0) << mode;
-    EXPECT_EQ(Focus(), "0-0-0") << mode;
-    m_engine.GotoNextPage();
-    EXPECT_EQ(m_engine.GetContentRows(), 0) << mode;
-    EXPECT_EQ(Focus(), "0-0-0") << mode;
+    for (const auto turn : {&CCalendarLogic::GotoPreviousPage, &CCalendarLogic::GotoNextPage}) {
+      (m_engine.*turn)();
+      EXPECT_EQ(m_engine.GetContentRows(), 0) << mode;
+      EXPECT_EQ(Focus(), "0-0-0") << mode;
+    }
   }
 }
 
@@ -391,13 +366,9 @@ TEST_F(Logic, DateWithinAPagedBoardIsShownOnAPlainOne) {
 }
 
 TEST_F(Logic, DatesAreComparedAsTheyAreGiven) {
-  m_engine.SetShowMonthInterval(false);
-  m_engine.SetPassedWeeks(0);
-  m_engine.SetMaxRows(1);
-  SetToday(2024, 2, 28);
-  m_engine.SetMaxRows(1);
   m_engine.SetDispMonth(kStrip);
   m_engine.SetMaxColumns(3);
+  SetToday(2024, 2, 28);
   m_engine.GotoToday();
   ASSERT_EQ(Last(), "2024-2-29");
   m_engine.GotoSpecifiedDate(2024, 2, 31);  // after 29 February
@@ -460,35 +431,23 @@ TEST_F(Logic, FirstDateOfAFreshEngineOpensTheBoard) {
 }
 
 TEST_F(Logic, OffsetOfPagesIsCountedInWeeksOfMaxRows) {
+  struct {
+    int mode, rows, offset;
+    const char* trace;
+  } const cases[] = {
+      {kRolling, 5, 1, "build-logic 2024-4-14"}, {kRolling, 5, -1, "build-logic 2024-2-4"},
+      {kRolling, 5, 0, "build-logic 2024-3-10"}, {kRolling, 8, -2, "build-logic 2023-11-19"},
+      {kRolling, 0, 9, "build-logic 2024-3-10"}, {kRolling, -1, 1, "build-logic 2024-3-3"},
+      {kTail, 5, 1, "build-logic 2024-4-14"},    {kStrip, 5, 1, "build-logic 2024-4-14"},
+      {0, 5, 1, "build-logic 2024-4-14"}};
   SetToday(2024, 3, 10);
-  m_engine.m_pageDirection = kForward;
-  m_engine.GotoTodayOffsetMonth(1);
-  EXPECT_EQ(Trace(), "build-logic 2024-4-14");
-  EXPECT_EQ(Focus(), "2024-4-14");
-  EXPECT_EQ(Direction(), kPlain);
-  m_engine.GotoTodayOffsetMonth(-1);
-  EXPECT_EQ(Trace(), "build-logic 2024-2-4");
-  m_engine.GotoTodayOffsetMonth(0);
-  EXPECT_EQ(Trace(), "build-logic 2024-3-10");
-  m_engine.SetMaxRows(8);
-  m_engine.GotoTodayOffsetMonth(-2);
-  EXPECT_EQ(Trace(), "build-logic 2023-11-19");
-  m_engine.SetMaxRows(0);
-  m_engine.GotoTodayOffsetMonth(9);
-  EXPECT_EQ(Trace(), "build-logic 2024-3-10");
-  m_engine.SetMaxRows(-1);
-  m_engine.GotoTodayOffsetMonth(1);
-  EXPECT_EQ(Trace(), "build-logic 2024-3-3");
-}
-
-TEST_F(Logic, OffsetCountsInWeeksInRollingTailAndStripToo) {
-  SetToday(2024, 3, 10);
-  for (const int mode : {kTail, kStrip, 0, 5}) {
-    m_engine.SetDispMonth(mode);
-    m_engine.m_pageDirection = kBackward;
-    m_engine.GotoTodayOffsetMonth(1);
-    EXPECT_EQ(Trace(), "build-logic 2024-4-14") << mode;
-    EXPECT_EQ(Direction(), kPlain) << mode;
+  for (const auto& c : cases) {
+    m_engine.SetDispMonth(c.mode);
+    m_engine.SetMaxRows(c.rows);
+    m_engine.m_pageDirection = kForward;
+    m_engine.GotoTodayOffsetMonth(c.offset);
+    EXPECT_EQ(Trace(), c.trace) << c.mode << ' ' << c.rows;
+    EXPECT_EQ(Direction(), kPlain);
   }
 }
 
@@ -518,26 +477,14 @@ TEST_F(Logic, OffsetOfMonthsKeepsTheDayOrTakesTheMonthsLast) {
     int offset;
     const char* date;
   } const cases[] = {{-1, "2024-2-29"},  {11, "2025-2-28"},  {0, "2024-3-31"},
-                     {1, "2024-4-30"},   {2, "2024-5-31"},   {9, "2024-12-31"},
-                     {10, "2025-1-31"},  {-2, "2024-1-31"},  {-3, "2023-12-31"},
-                     {-4, "2023-11-30"}, {-14, "2023-1-31"}, {-15, "2022-12-31"},
-                     {21, "2025-12-31"}, {22, "2026-1-31"},  {-25, "2022-2-28"}};
+                     {9, "2024-12-31"},  {10, "2025-1-31"},  {-2, "2024-1-31"},
+                     {-3, "2023-12-31"}, {-14, "2023-1-31"}, {-15, "2022-12-31"},
+                     {21, "2025-12-31"}, {-25, "2022-2-28"}};
   for (const auto& c : cases) {
     m_engine.GotoTodayOffsetMonth(c.offset);
     EXPECT_EQ(Trace(), c.date);
     EXPECT_EQ(Focus(), c.date);
   }
-}
-
-TEST_F(Logic, OffsetOfMonthsFromJanuaryCrossesTheYearsBackward) {
-  m_engine.SetDispMonth(kMonth);
-  SetToday(2024, 1, 15);
-  m_engine.GotoTodayOffsetMonth(-1);
-  EXPECT_EQ(Trace(), "2023-12-15");
-  m_engine.GotoTodayOffsetMonth(-12);
-  EXPECT_EQ(Trace(), "2023-1-15");
-  m_engine.GotoTodayOffsetMonth(-13);
-  EXPECT_EQ(Trace(), "2022-12-15");
 }
 
 TEST_F(Logic, OffsetOfMonthsKeepsTheDirection) {
@@ -556,11 +503,12 @@ TEST_F(Logic, OffsetToAMonthOutsideTheYearsPrintsDayMinus1AndKeepsTheBoard) {
     int offset;
     const char* trace;
     const char* focus;
-  } const cases[] = {{909, "2099-12-13", "2099-12-13"},
-                     {910, "2100-1--1", "2099-12-13"},
-                     {2032, "2193-7--1", "2099-12-13"},
-                     {-1490, "1900-1-13", "1900-1-13"},
-                     {-1491, "1899-12--1", "1900-1-13"}};
+  } const cases[] = {
+      {909, "2099-12-13", "2099-12-13"},           {910, "2100-1--1", "2099-12-13"},
+      {-1490, "1900-1-13", "1900-1-13"},           {-1491, "1899-12--1", "1900-1-13"},
+      {2147483644, "178958994-7--1", "1900-1-13"},  // 3 + 2147483644 still fits
+      {kMax, "-178954947-6--1", "1900-1-13"},       // the sum wraps
+      {kMin, "-178954947-7--1", "1900-1-13"}};
   for (const auto& c : cases) {
     m_engine.GotoTodayOffsetMonth(c.offset);
     EXPECT_EQ(Trace(), c.trace);
@@ -568,29 +516,12 @@ TEST_F(Logic, OffsetToAMonthOutsideTheYearsPrintsDayMinus1AndKeepsTheBoard) {
   }
 }
 
-TEST_F(Logic, OffsetOfMonthsTakesEveryInt) {
-  m_engine.SetDispMonth(kMonth);
-  m_engine.GotoTodayOffsetMonth(2147483644);
-  EXPECT_EQ(Trace(), "178958994-7--1");  // 3 + 2147483644 still fits
-  m_engine.GotoTodayOffsetMonth(kMin);
-  EXPECT_EQ(Trace(), "-178954947-7--1");
-  m_engine.GotoTodayOffsetMonth(kMax);  // the sum wraps
-  EXPECT_EQ(Trace(), "-178954947-6--1");
-  EXPECT_EQ(Focus(), "0-0-0");
-}
-
 TEST_F(Logic, TraceStandsBeforeTheTextOfTheBoardWithoutALineEnd) {
-  m_engine.SetMaxRows(1);
   m_engine.GotoTodayOffsetMonth(0);
-  EXPECT_EQ(m_output.Take(),
-            "build-logic 2024-3-13\n\n\n\n\n"
-            "weeknumber = 10\t(3)2024-03-04\t(3)2024-03-05\t(3)2024-03-06\t(3)2024-03-07"
-            "\t(3)2024-03-08\t(5)2024-03-09\t(5)2024-03-10\n"
-            "\n\n\n\n\n");
+  EXPECT_EQ(m_output.Take().rfind("build-logic 2024-3-13\n\n\n\n\nweeknumber = 10", 0), 0U);
   m_engine.SetDispMonth(kMonth);
   m_engine.GotoTodayOffsetMonth(0);
-  const std::string text = m_output.Take();
-  EXPECT_EQ(text.substr(0, 28), "2024-3-13\n\n\n\n\nweeknumber = 9");
+  EXPECT_EQ(m_output.Take().rfind("2024-3-13\n\n\n\n\nweeknumber = 9", 0), 0U);
 }
 
 TEST_F(Logic, EveryNavigationWritesTheBoardOnce) {
@@ -614,25 +545,14 @@ TEST_F(Logic, EveryNavigationWritesTheBoardOnce) {
   }
 }
 
-TEST_F(Logic, QueriesAndOptionsWriteNothing) {
+TEST_F(Logic, OptionsTakeEffectAtTheNextBuildAndWriteNothing) {
   m_engine.GotoToday();
   m_output.Take();
-  m_engine.GetContentItem(0, 0);
-  m_engine.GetCalendarWeekByColumns(0);
-  m_engine.GetWeekNumberItem(0);
-  m_engine.GetContentDate();
-  m_engine.GetToday();
-  m_engine.SetMaxRows(3);
-  m_engine.GetConfigKey();
-  EXPECT_EQ(m_output.Take(), "");
-}
-
-TEST_F(Logic, OptionsTakeEffectAtTheNextBuild) {
-  m_engine.GotoToday();
   m_engine.SetMaxRows(3);
   m_engine.SetShowBreakDayOfWeek(false);
   EXPECT_EQ(m_engine.GetContentRows(), 5);
   EXPECT_EQ(m_engine.GetContentColumns(), 7);
+  EXPECT_EQ(m_output.Take(), "");
   m_engine.Build();
   EXPECT_EQ(m_engine.GetContentRows(), 3);
   EXPECT_EQ(m_engine.GetContentColumns(), 5);
@@ -664,34 +584,17 @@ TEST_F(Logic, CellsAreAskedByVisibleRowWhereRowsAreHidden) {
 TEST_F(Logic, CellOutsideTheVisibleOnesIsADefaultCell) {
   m_engine.SetShowBreakDayOfWeek(false);
   m_engine.GotoToday();
+  EXPECT_NE(m_engine.GetContentItem(0, 0).GetType(), eCalendarItemEmpty);
+  EXPECT_NE(m_engine.GetContentItem(4, 4).GetType(), eCalendarItemEmpty);
   struct {
     int row, column;
-    bool inside;
-  } const cases[] = {{4, 4, true},     {5, 4, false},   {4, 5, false},    {0, 0, true},
-                     {-1, 0, false},   {0, -1, false},  {kMin, 0, false}, {0, kMin, false},
-                     {kMax, 0, false}, {0, kMax, false}};
+  } const cases[] = {{5, 4}, {4, 5}, {-1, 0}, {0, -1}, {kMin, 0}, {0, kMin}, {kMax, 0}, {0, kMax}};
   for (const auto& c : cases) {
     const CCalendarItem item = m_engine.GetContentItem(c.row, c.column);
-    EXPECT_EQ(item.GetType() != 1, c.inside) << c.row << ' ' << c.column;
-    if (!c.inside) {
-      EXPECT_EQ(item.GetDay(), "(1)0000-00-00");
-      EXPECT_EQ(item.GetWeekNumber(), -1);
-      EXPECT_EQ(item.GetRow(), 0);
-      EXPECT_EQ(item.GetColumn(), 0);
-    }
-  }
-}
-
-TEST_F(Logic, HeadingsFollowTheStartDayAndTheVisibleColumns) {
-  m_engine.SetShowBreakDayOfWeek(false);
-  for (int start = 0; start <= 6; ++start) {
-    m_engine.SetStartDayOfWeek(start);
-    m_engine.GotoToday();
-    ASSERT_EQ(m_engine.GetContentColumns(), 5);
-    for (int column = 0; column < 5; ++column) {
-      EXPECT_EQ(m_engine.GetCalendarWeekByColumns(column),
-                (start + m_engine.Built().visible.columns[static_cast<std::size_t>(column)]) % 7);
-    }
+    EXPECT_EQ(item.GetDay(), "(1)0000-00-00") << c.row << ' ' << c.column;
+    EXPECT_EQ(item.GetWeekNumber(), -1);
+    EXPECT_EQ(item.GetRow(), 0);
+    EXPECT_EQ(item.GetColumn(), 0);
   }
 }
 
@@ -700,8 +603,10 @@ TEST_F(Logic, HeadingOfAColumnThatIsNotVisibleIsTheStartDay) {
   m_engine.SetShowBreakDayOfWeek(false);
   m_engine.SetStartDayOfWeek(3);
   m_engine.GotoToday();
-  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(5), 3);
-  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(6), 3);
+  const int headings[] = {3, 4, 5, 1, 2, 3, 3};
+  for (int column = 0; column < 7; ++column) {
+    EXPECT_EQ(m_engine.GetCalendarWeekByColumns(column), headings[column]) << column;
+  }
   for (const int column : {-1, 7, kMin, kMax}) {
     EXPECT_EQ(m_engine.GetCalendarWeekByColumns(column), 0) << column;
   }
@@ -716,19 +621,16 @@ TEST_F(Logic, HeadingsBeforeTheFirstBuild) {
 
 // The start day counts as it was set, although the days are laid out from Monday then.
 TEST_F(Logic, HeadingsOfAStartDayOutsideTheWeekKeepItsRemainder) {
-  m_engine.SetStartDayOfWeek(9);
-  m_engine.GotoToday();
-  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(0), 2);
-  EXPECT_EQ(m_engine.GetContentItem(0, 0).GetDate().dayOfWeek, 1);
-  m_engine.SetStartDayOfWeek(-10);
-  m_engine.GotoToday();
-  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(0), -3);
-  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(3), 0);
-  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(4), -6);
-  m_engine.SetStartDayOfWeek(kMax);
-  m_engine.GotoToday();
-  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(0), 1);
-  EXPECT_EQ(m_engine.GetCalendarWeekByColumns(1), -2);  // wraps
+  struct {
+    int start, column, heading;
+  } const cases[] = {{9, 0, 2},    {-10, 0, -3}, {-10, 3, 0},
+                     {-10, 4, -6}, {kMax, 0, 1}, {kMax, 1, -2}};  // wraps
+  for (const auto& c : cases) {
+    m_engine.SetStartDayOfWeek(c.start);
+    m_engine.GotoToday();
+    EXPECT_EQ(m_engine.GetCalendarWeekByColumns(c.column), c.heading) << c.start;
+    EXPECT_EQ(m_engine.GetContentItem(0, 0).GetDate().dayOfWeek, 1);
+  }
 }
 
 TEST_F(Logic, HeadingsOfTheStripAreTheWeekdaysOfItsDates) {
@@ -766,20 +668,10 @@ TEST_F(Logic, SpansAreAskedByIndex) {
   EXPECT_EQ(m_engine.GetWeekNumberItem(3).rows, 2);
   for (const int index : {-1, 4, kMin, kMax}) {
     const tagCalendarWeekSpan span = m_engine.GetWeekNumberItem(index);
-    EXPECT_EQ(span.weekNumber, 0);
-    EXPECT_EQ(span.firstWeekCells, 0);
-    EXPECT_EQ(span.secondWeekNumber, 0);
-    EXPECT_EQ(span.secondWeekCells, 0);
-    EXPECT_EQ(span.cellsWithoutWeek, 0);
-    EXPECT_EQ(span.rows, 0);
+    EXPECT_EQ(std::tie(span.weekNumber, span.firstWeekCells, span.secondWeekNumber,
+                       span.secondWeekCells, span.cellsWithoutWeek, span.rows),
+              std::make_tuple(0, 0, 0, 0, 0, 0));
   }
-}
-
-TEST_F(Logic, ContentDateIsTheFocusAsPassed) {
-  m_engine.GotoSpecifiedDate(2023, 2, 31);
-  const CCalendarSolarDate date = m_engine.GetContentDate();
-  EXPECT_EQ(Date(date), "2023-2-31");
-  EXPECT_EQ(date.dayOfWeek, 0);
 }
 
 TEST_F(Logic, TodayHasItsWeekdayAndDoesNotTouchTheBoard) {
