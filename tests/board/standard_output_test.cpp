@@ -104,13 +104,4 @@ TEST(StandardOutputDeathTest, SignalThatTheHostBlocksStaysBlockedAndPending) {
               testing::ExitedWithCode(3), "");
 }
 
-TEST(StandardOutputDeathTest, ClosedOutputEndsNoProcess) {
-  EXPECT_EXIT(WriteAndExit([] { close(STDOUT_FILENO); }), testing::ExitedWithCode(0), "");
-}
-
-TEST(StandardOutputDeathTest, FullDeviceEndsNoProcess) {
-  EXPECT_EXIT(WriteAndExit([] { dup2(open("/dev/full", O_WRONLY), STDOUT_FILENO); }),
-              testing::ExitedWithCode(0), "");
-}
-
 }  // namespace

@@ -133,12 +133,6 @@ TEST(DateZones, DublinShiftsItsWinterDaysBackByOne) {
   EXPECT_EQ(Fix({2024, 10, 28}).date, (Civil{2024, 10, 27}));
 }
 
-TEST(DateZones, LondonKeepsTheClockOfDublinAndItsDays) {
-  const ScopedZone zone("Europe/London");
-  EXPECT_EQ(Fix({2024, 1, 15}).date, (Civil{2024, 1, 15}));
-  EXPECT_EQ(Fix({2024, 7, 15}).date, (Civil{2024, 7, 15}));
-}
-
 TEST(DateZones, CasablancaShiftsTheDaysOfRamadanBackByOne) {
   const ScopedZone zone("Africa/Casablanca");
   EXPECT_EQ(Fix({2024, 3, 10}).date, (Civil{2024, 3, 10}));  // the clocks go back on this day

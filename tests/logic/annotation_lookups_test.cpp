@@ -28,13 +28,6 @@ class AnnotationMemo : public testing::Test {
   Engine engine;
 };
 
-TEST_F(AnnotationMemo, StartsEmpty) {
-  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 0U);
-  EXPECT_EQ(engine.m_map24SekkiCache.Size(), 0U);
-  EXPECT_EQ(engine.m_mapFestivalSolarCache.Size(), 0U);
-  EXPECT_EQ(engine.m_mapFestivalLunarCache.Size(), 0U);
-}
-
 TEST_F(AnnotationMemo, KeepsALunarDateUnderItsDate) {
   const CCalendarLunarDate first = engine.ConverterLunar({2024, 2, 10, 0});
   ASSERT_EQ(engine.m_mapLunarDateCache.Size(), 1U);
