@@ -4,34 +4,19 @@
 #include <almara/almara.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <algorithm>
 #include <ctime>
-#include <vector>
 
 #include "support/capture_stdout.h"
 #include "support/civil.h"
+#include "support/exported_board.h"
 
 using almara::test::CaptureStdout;
-using almara::test::Civil;
 using almara::test::DayOfWeek;
-using almara::test::NextDay;
+using almara::test::ReadExportedBoard;
+using almara::test::ShownBoard;
 
 namespace {
-
-bool IsDay(const tagCalendarCell& cell) { return cell.type >= 3 && cell.type <= 6; }
-
-std::vector<tagCalendarCell> Days() {
-  std::vector<tagCalendarCell> days;
-  for (std::int32_t row = 0; row < GetContentRows(); ++row) {
-    for (std::int32_t column = 0; column < GetContentColumns(); ++column) {
-      const tagCalendarCell cell = GetContentItem(row, column);
-      if (IsDay(cell)) {
-        days.push_back(cell);
-      }
-    }
-  }
-  return days;
-}
 
 class Zone : public testing::Test {
  protected:
@@ -49,21 +34,15 @@ TEST_F(Zone, TodayIsTheLocalDate) {
 }
 
 TEST_F(Zone, DaysFollowEachOtherInTheColumnsOfTheirWeekdays) {
-  for (const std::int32_t mode : {1, 2, 3}) {
+  for (const EDispMonth mode : {1, 2, 3}) {
     SetDispMonth(mode);
     InitCalendarLogicDt(eLanguageEng);
     for (int page = 0; page < 3; ++page) {
-      const std::vector<tagCalendarCell> days = Days();
-      ASSERT_GE(days.size(), 21U);
-      for (std::size_t i = 0; i < days.size(); ++i) {
-        const Civil day{days[i].year, days[i].month, days[i].day};
-        EXPECT_EQ(days[i].dayOfWeek, DayOfWeek(day)) << day;
-        EXPECT_EQ(GetCalendarWeekByColumns(days[i].column), days[i].dayOfWeek) << day;
-        if (i > 0) {
-          EXPECT_EQ(day, NextDay({days[i - 1].year, days[i - 1].month, days[i - 1].day}));
-        }
-      }
-      if (mode != 2) {
+      const ShownBoard board = ReadExportedBoard();
+      EXPECT_GE(std::count_if(board.cells.begin(), board.cells.end(), almara::test::IsDay), 21);
+      EXPECT_STREQ(almara::test::FirstBroken(board), nullptr);
+      EXPECT_STREQ(almara::test::BrokenHeadings(board, mode, eCalendarWeekMonday), nullptr);
+      if (mode != eDispMonthRollingTail) {
         GotoNextPage();
       }
     }
@@ -72,17 +51,13 @@ TEST_F(Zone, DaysFollowEachOtherInTheColumnsOfTheirWeekdays) {
 
 TEST_F(Zone, TodayIsMarkedOnce) {
   InitCalendarLogicDt(eLanguageEng);
-  EXPECT_TRUE(IsTodayInBoard());
-  int marked = 0;
-  const CCalendarSolarDate today = GetToday();
-  for (const tagCalendarCell& cell : Days()) {
-    if (cell.type == eCalendarItemToday || cell.type == eCalendarItemTodayBreakDay) {
-      ++marked;
-      EXPECT_EQ(cell.day, today.day);
-      EXPECT_EQ(cell.dayOfWeek, today.dayOfWeek);
-    }
-  }
-  EXPECT_EQ(marked, 1);
+  const ShownBoard board = ReadExportedBoard();
+  EXPECT_TRUE(board.hasToday);
+  const auto marked = std::find_if(board.cells.begin(), board.cells.end(), almara::test::IsToday);
+  ASSERT_NE(marked, board.cells.end());
+  EXPECT_EQ(marked->day, GetToday().day);
+  EXPECT_EQ(marked->dayOfWeek, GetToday().dayOfWeek);
+  EXPECT_TRUE(std::none_of(marked + 1, board.cells.end(), almara::test::IsToday));
 }
 
 }  // namespace

@@ -51,15 +51,6 @@ TEST(BoardLock, BuildWaitsForTheMutex) {
   EXPECT_EQ(board.Rows().size(), 5U);
 }
 
-TEST(BoardLock, BuildGivesTheMutexBack) {
-  const CaptureStdout output;
-  Board board;
-  board._BuildCalendar(2024, 3, 13);
-  EXPECT_TRUE(IsFree());
-  board._BuildCalendar(1899, 12, 31);
-  EXPECT_TRUE(IsFree());
-}
-
 // A build stands still in a full pipe that nobody reads.
 TEST(BoardLock, BoardIsWrittenUnderTheMutex) {
   const CaptureStdout output;  // puts the standard output back

@@ -48,11 +48,6 @@ TEST(DateMemo, VariantYearMonthAndDayEachMakeAQuestionOfTheirOwn) {
   EXPECT_EQ(memo.Computed(), 5);
 }
 
-TEST(DateMemo, DayOfWeekIsNoPartOfTheQuestion) {
-  CountedMemo memo;
-  EXPECT_EQ(memo.Ask(1, {2024, 3, 9, 6}), memo.Ask(1, {2024, 3, 9, 2}));
-}
-
 TEST(DateMemo, DaysOutsideAMonthDoNotCollide) {
   const std::vector<std::int32_t> days = {0,   1,   31,   32,   33,       63,       64,   -1,   -31,
                                           -32, -33, kMin, kMax, kMin + 1, kMax - 1, 1000, -1000};

@@ -28,18 +28,6 @@ class AnnotationMemo : public testing::Test {
   Engine engine;
 };
 
-TEST_F(AnnotationMemo, KeepsALunarDateUnderItsDate) {
-  const CCalendarLunarDate first = engine.ConverterLunar({2024, 2, 10, 0});
-  ASSERT_EQ(engine.m_mapLunarDateCache.Size(), 1U);
-  EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {2024, 2, 10, 0}), nullptr);
-
-  const CCalendarLunarDate second = engine.ConverterLunar({2024, 2, 10, 0});
-  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 1U);
-  EXPECT_EQ(second.year, first.year);
-  EXPECT_EQ(second.month, first.month);
-  EXPECT_EQ(second.day, first.day);
-}
-
 TEST_F(AnnotationMemo, ASecondQueryComputesNothing) {
   const CCalendarSolarDate date{2024, 2, 10, 6};
   engine.m_mapLunarDateCache.GetOrCompute(0, date, [] {
