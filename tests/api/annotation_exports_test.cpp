@@ -4,15 +4,11 @@
 #include <almara/almara.h>
 #include <gtest/gtest.h>
 
-#include <limits>
-
 #include "festival/in_fresh_process.h"
 #include "support/zone.h"
 
 namespace almara::test {
 namespace {
-
-constexpr int kMin = std::numeric_limits<int>::min();
 
 void Initialise(int32_t language) {
   testing::internal::CaptureStdout();
@@ -42,13 +38,6 @@ TEST(AnnotationZone, ALanguageWithoutAZoneTakesTheMachines) {
   };
   EXPECT_TRUE(solsticeIsOn("XXX+3:30", eLanguageUsa, 20));
   EXPECT_TRUE(solsticeIsOn("XXX-14", eLanguageVit, 21));
-}
-
-TEST(AnnotationZone, BeforeItIsKnownAnswersMeanNothingButCome) {
-  EXPECT_TRUE(HoldsInFreshProcess([] {
-    const CCalendarLunarDate lunar = ConverterLunarWithDate({2024, 2, 10, 0});
-    return lunar.month >= 1 && Check24SekkiWithDate({2024, 6, 21, 0}) == eSekkiNone;
-  }));
 }
 
 int AskUsa(int year, int month, int day) {
@@ -100,14 +89,6 @@ TEST_F(AnnotationExports, LunarDates) {
   ExpectLunar(ConverterLunarWithDate({2023, 3, 22, 0}), 2023, 2, 1, 1);
   ExpectLunar(ConverterLunarWithDate({2033, 12, 22, 0}), 2033, 11, 1, 1);
   ExpectLunar(ConverterLunarWithDate({2017, 3, 27, 0}), 2017, 2, 30, 0);
-}
-
-TEST_F(AnnotationExports, TheDayOfTheWeekMakesNoDifference) {
-  ExpectLunar(ConverterLunarWithDate({2024, 2, 11, 5}), 2024, 1, 2, 0);
-  ExpectLunar(ConverterLunarWithDate({2024, 2, 11, 0}), 2024, 1, 2, 0);
-  EXPECT_EQ(Check24SekkiWithDate({2024, 12, 21, 99}), eSekkiWinterSolstice);
-  EXPECT_EQ(CheckFestivalSolarWithLang(0, {2023, 11, 23, 1}), eFestivalSolarThanksgiving);
-  EXPECT_EQ(CheckFestivalLunarWithLang(1, {2024, 2, 10, kMin}), eFestivalLunarNewYearsDay);
 }
 
 TEST_F(AnnotationExports, TermsAndFestivals) {

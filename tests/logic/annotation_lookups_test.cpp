@@ -135,15 +135,5 @@ TEST_F(AnnotationMemo, AnswersOutliveAChangeOfTheZone) {
   EXPECT_EQ(Engine().ConverterLunar({2024, 2, 9, 0}).month, 1);
 }
 
-TEST_F(AnnotationMemo, BuildsAndOptionsLeaveItAlone) {
-  engine.ConverterLunar({2024, 2, 9, 0});
-  engine.SetMaxRows(3);
-  testing::internal::CaptureStdout();
-  engine.InitCalendarLogic(eLanguageKor);
-  engine.GotoNextPage();
-  testing::internal::GetCapturedStdout();
-  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 1U);
-}
-
 }  // namespace
 }  // namespace almara::test

@@ -416,9 +416,13 @@ TEST_F(Logic, RejectedDateKeepsTheBoardButSetsTheDirection) {
   EXPECT_EQ(Direction(), kBackward);
 }
 
-TEST_F(Logic, AllZeroDateIsToday) {
-  m_engine.GotoToday();
+TEST_F(Logic, AllZeroDateIsTodayAndAPartOfItNone) {
   m_engine.GotoSpecifiedDate(2025, 1, 1);
+  for (const CCalendarSolarDate& none :
+       {CCalendarSolarDate{0, 0, 1, 0}, {0, 1, 0, 0}, {2025, 0, 0, 0}, {2025, 1, 0, 0}}) {
+    m_engine.GotoSpecifiedDate(none.year, none.month, none.day);
+    EXPECT_EQ(Focus(), "2025-1-1") << Date(none);
+  }
   m_engine.GotoSpecifiedDate(0, 0, 0);
   EXPECT_EQ(Focus(), "2024-3-13");
   EXPECT_EQ(Direction(), kPlain);
