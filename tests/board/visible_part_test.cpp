@@ -77,20 +77,17 @@ TEST_F(VisiblePartOfBoard, NarrowRollingWeeksStandAroundToday) {
   }
 }
 
-TEST_F(VisiblePartOfBoard, NarrowRollingWeeksWithoutTodayShowAllColumns) {
-  m_board.SetMaxColumns(3);
-  SetToday(2024, 5, 1);
-  Build(2024, 3, 13);
-  EXPECT_EQ(m_board.VisibleColumns(), Range(0, 7));
-}
-
-TEST_F(VisiblePartOfBoard, MaxColumnsNarrowNoMonth) {
+TEST_F(VisiblePartOfBoard, NothingElseIsNarrowedByMaxColumns) {
   m_board.SetMaxColumns(3);
   for (const int mode : {2, 3, 0, 5}) {
     m_board.SetDispMonth(mode);
     Build(2024, 3, 13);
     EXPECT_EQ(m_board.VisibleColumns(), Range(0, 7)) << mode;
   }
+  m_board.SetDispMonth(eDispMonthRollingWeeks);
+  SetToday(2024, 5, 1);  // not on the board
+  Build(2024, 3, 13);
+  EXPECT_EQ(m_board.VisibleColumns(), Range(0, 7));
 }
 
 TEST_F(VisiblePartOfBoard, StripShowsItsColumnsFromTheFirst) {
