@@ -521,7 +521,7 @@ TEST_F(ShownWeek, WeeksOfTheNextYearGoOnUnderType2) {
   EXPECT_EQ(Of(2025, 9, 1, 36, 2), 1);  // week 36
 }
 
-TEST_F(ShownWeek, OnlyTheYearBehindTodaysGoesOnAndUnderNoOtherType) {
+TEST_F(ShownWeek, OnlyTheYearAfterTodaysGoesOnAndUnderNoOtherType) {
   for (const int year : {2023, 2024, 2026}) {
     EXPECT_EQ(Of(year, 1, 1, 36, 2), 1) << year;
   }
@@ -655,7 +655,7 @@ TEST_F(BoardContent, ChangesOfTheClocksMoveNoDay) {
   }
 }
 
-TEST_F(BoardContent, ApiasBoardGoesOnBehindItsMissingDay) {
+TEST_F(BoardContent, ApiasBoardGoesOnAfterItsMissingDay) {
   const ScopedZone zone("Pacific/Apia");
   m_board.SetShowMonthInterval(false);
   m_board.SetMaxRows(3);

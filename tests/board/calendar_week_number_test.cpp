@@ -136,7 +136,7 @@ TEST(WeekNumber, AnswerIsKeptByDateAndType) {
   EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 8, 0), 14);  // another date
 }
 
-TEST(WeekNumber2, IsOneAboveIsoBehindTheFirstPartialWeek) {
+TEST(WeekNumber2, IsOneAboveIsoAfterTheFirstPartialWeek) {
   const CCalendarWeekNumber weeks;
   EXPECT_EQ(weeks._GetWeekNumber2(2021, 1, 3), 53);
   EXPECT_EQ(weeks._GetWeekNumber2(2021, 1, 4), 2);

@@ -193,7 +193,7 @@ TEST_F(DisplayDateList, PagedBackwardTheRowsBeforeTheFocusThatWereNotAskedForGo)
   }
 }
 
-TEST_F(DisplayDateList, PagedForwardTheRowsBehindTheFocusThatWereNotAskedForGo) {
+TEST_F(DisplayDateList, PagedForwardTheRowsAfterTheFocusThatWereNotAskedForGo) {
   Focus({2024, 2, 26}, PageDirection::kForward);
   EXPECT_EQ(Shown(Days({2024, 2, 26}, 7), 0, 6), "26 27 28 29 [3] . .");
 }
@@ -221,7 +221,7 @@ TEST_F(DisplayDateList, WithoutABandNothingIsCut) {
   EXPECT_EQ(Display(Days({2024, 3, 6}, 29 - 7), 0, 0).size(), 22U);
 }
 
-TEST_F(DisplayDateList, FocusThatIsNotListedCountsAsTheFirstEntryWithNothingBehind) {
+TEST_F(DisplayDateList, FocusThatIsNotListedCountsAsTheFirstEntryWithNothingAfter) {
   Focus({2024, 2, 31}, PageDirection::kBackward);
   const DateList source = Days({2024, 2, 26}, 7);
   EXPECT_EQ(Display(source, 6, 0).size(), 14U);

@@ -192,7 +192,7 @@ TEST_F(WeekSpans, FirstWeekOfANewYearWinsInOneRow) {
   EXPECT_EQ(Of({{53, 1, 1, 1, 1, 1, 1}}), (Spans{{1, 1, 1, 6, 0, 1}}));
 }
 
-TEST_F(WeekSpans, NewYearBehindABandDividesTheSpan) {
+TEST_F(WeekSpans, NewYearAfterABandDividesTheSpan) {
   const std::vector<Week> weeks = {{53, 53, 53, U, U, U, U}, {U, U, U, 1, 1, 1, 1}};
   EXPECT_EQ(Of(weeks), (Spans{{53, 3, 0, 4, 7, 1}, {1, 3, 0, 4, 7, 1}}));
   SundayFirst();
@@ -288,7 +288,7 @@ TEST_F(SpansOfBoards, HiddenRowsAreSkipped) {
                                        {24, 5, 0, 0, 0, 1}}));
 }
 
-TEST_F(SpansOfBoards, NewYearBehindABandCountedFrom1January) {
+TEST_F(SpansOfBoards, NewYearAfterABandCountedFrom1January) {
   m_board.SetWeekNumberCalcType(0);
   m_board.SetMaxRows(3);
   EXPECT_EQ(Build(2025, 1, 1),

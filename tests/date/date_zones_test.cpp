@@ -77,7 +77,7 @@ TEST(DateZones, ApiaHasNo30December2011) {
 }
 
 // The standard time nearest to that summer day is the one from before the change, 24 hours behind.
-TEST(DateZones, TheDayBehindApiasMissingOneIsTakenForTheNext) {
+TEST(DateZones, TheDayAfterApiasMissingOneIsTakenForTheNext) {
   const ScopedZone zone("Pacific/Apia");
   EXPECT_EQ(Fix({2011, 12, 31}).date, (Civil{2012, 1, 1}));
   EXPECT_EQ(Offset({2011, 12, 31}, -1), (Civil{2011, 12, 31}));
