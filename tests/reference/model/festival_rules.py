@@ -107,8 +107,8 @@ class FestivalRules:
     def good_friday(self, year):
         """Good Friday as month and day.
 
-        The cached day is compared with the year and the year is returned as the day, which only
-        the first years of the calendar can notice.
+        A year that equals the day found last gets the month found last and itself as the day: wrong,
+        and possible in the years 1 to 31 only.
         """
         known = self.good_friday_day != UNSET and self.good_friday_month != UNSET
         if known and self.good_friday_day == year:

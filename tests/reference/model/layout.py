@@ -149,7 +149,7 @@ class SpanBuilder:
             self.close_two_weeks()
 
     def close_two_weeks(self):
-        """Two week numbers and a dated last cell: the first week of a new year wins."""
+        """A row of two weeks that ends with a day: week 1 gets a span of its own."""
         span = self.open
         if span.second_week == 1:
             if span.rows != 1:
