@@ -20,6 +20,8 @@ struct LunarBirthday {
   std::string name;
 };
 
+constexpr int kMostAnniversaries = kLastYear - kFirstYear + 2;
+
 struct Anniversary {
   CivilDate date;
   CCalendarLunarDate lunar{};  // of that date: in a year without it not that of the birthday

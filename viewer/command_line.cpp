@@ -25,10 +25,12 @@ enum Use : unsigned {
   kList = 8U,
   kScreen = 16U,
   kBirthday = 32U,
+  kCalendar = 64U,  // a file of events
   kBoards = kBoard | kScreen,
   kPages = kBoards | kMonths,
   kDays = kPages | kDay | kList,
-  kAll = kDays | kBirthday,
+  kShown = kDays | kBirthday,
+  kAll = kShown | kCalendar,
 };
 
 constexpr Use operator|(Use a, Use b) { return static_cast<Use>(static_cast<unsigned>(a) | b); }
@@ -44,6 +46,8 @@ Use UseOf(Task task) {
       return kList;
     case Task::kShowBirthday:
       return kBirthday;
+    case Task::kWriteCalendar:
+      return kCalendar;
     case Task::kFullScreen:
       return kScreen;
     case Task::kShowBoard:
@@ -200,8 +204,8 @@ class CommandLine {
             [&board] { board.hideBreakDays = true; });
     AddFlag("--no-annotations", "No line under the days and no legend", kPages,
             [this] { m_options.annotations = false; });
-    AddWord("--lunar", "WHOSE", "Lunar dates and terms: almanac (published) or engine", kDays,
-            kLunarSourceWords, m_options.lunar);
+    AddWord("--lunar", "WHOSE", "Lunar dates and terms: almanac (published) or engine",
+            kDays | kCalendar, kLunarSourceWords, m_options.lunar);
     AddWord("--language", "REGION", "chs, cht, deu, eng, jpn, kor, rus, tha, usa or vit", kAll,
             kLanguageWords, board.language);
   }
@@ -285,11 +289,17 @@ class CommandLine {
                SetTask(Task::kShowBirthday, name);
                m_options.birthday.date = ReadLunarDate(name, text);
              });
-    AddValue("--year", "YYYY", "The year to list or to begin with, instead of now",
-             kList | kBirthday, [this](Text name, Text text) {
+    AddFlag("--ics", "The terms and festivals of a year for other calendars", kCalendar,
+            [this] { SetTask(Task::kWriteCalendar, "--ics"); });
+    AddValue(
+        "--birthday", "DATE=NAME", "A lunar birthday for --ics; may be repeated", kCalendar,
+        [this](Text name, Text text) { m_options.birthdays.push_back(ReadBirthday(name, text)); });
+    AddValue("--year", "YYYY", "The year to list or to begin with, instead of now", kTakesYear,
+             [this](Text name, Text text) {
                m_options.year = ReadNumber(name, text, kFirstYear, kLastYear);
              });
-    AddValue("--years", "N", "How many years of --lunar-date (10)", kBirthday,
+    AddValue("--years", "N", "How many years of --lunar-date (10) or --ics (1)",
+             kBirthday | kCalendar,
              [this](Text name, Text text) { m_options.years = ReadNumber(name, text, 1, kYears); });
   }
 
@@ -301,8 +311,9 @@ class CommandLine {
             [this] { SetTask(Task::kFullScreen, "--tui"); });
     AddFlag("--json", "Everything the engine reports, for scripts", kJson,
             [this] { m_options.json = true; });
-    AddWord("--color", "WHEN", "auto, always or never (auto)", kAll, kColorWords, m_options.color);
-    AddFlag("--ascii", "Lines and marks in ASCII; texts stay", kAll,
+    AddWord("--color", "WHEN", "auto, always or never (auto)", kShown, kColorWords,
+            m_options.color);
+    AddFlag("--ascii", "Lines and marks in ASCII; texts stay", kShown,
             [this] { m_options.ascii = true; });
     AddValue("--width", "N", "Columns to use instead of the terminal's, 20 to 1000", kText,
              [this](Text name, Text text) {
@@ -394,7 +405,7 @@ class CommandLine {
       m_options.task = Task::kShowBoard;
     }
     const Use use = UseOf(m_options.task);
-    if (!Given("--json") && (use & (kMonths | kScreen)) != 0) {
+    if (!Given("--json") && (use & (kMonths | kScreen | kCalendar)) != 0) {
       m_options.json = false;
     }
     if (!Given("--dump") && (m_options.json || use == kScreen)) {
@@ -412,13 +423,16 @@ class CommandLine {
       Reject("--dump", tui ? "cannot be combined with --tui" : "cannot be combined with --json");
     }
     if (Given("--year") && (UseOf(m_options.task) & kTakesYear) == 0) {
-      Reject("--year", "is for --list and --lunar-date");
+      Reject("--year", "is for --list, --lunar-date and --ics");
     }
     for (const auto& [name, use] : m_given) {
       if ((use & UseOf(m_options.task)) == 0) {
         Reject(name, m_taskOption.empty() ? "is not for a board"
                                           : "cannot be combined with " + m_taskOption);
       }
+    }
+    if (Given("--birthday") && m_options.lunar == LunarSource::kEngine) {
+      Reject("--birthday", "cannot be combined with --lunar engine, which has no lunar birthdays");
     }
     CheckDates();
   }
@@ -472,7 +486,7 @@ class CommandLine {
       "traditional), German, English, Japanese, Korean, Russian, Thai, United States,\n"
       "Vietnamese. Defaults of your own:\n"
       "~/.config/almara/almara-board.toml, a line such as rows = 6 for each option.";
-  static constexpr Use kTakesYear = kList | kBirthday;
+  static constexpr Use kTakesYear = kList | kBirthday | kCalendar;
   static constexpr int kYears = kLastYear - kFirstYear + 1;
   static constexpr int kHelpColumn = 24;
   static constexpr int kLargestOffset = 99999;

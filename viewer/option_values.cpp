@@ -37,6 +37,21 @@ bool Names(const std::string& text, const std::string& name) {
                    "' is neither a month nor a year from 1900 to 2099; see almara-board --help");
 }
 
+// Whether these are characters of UTF-8, none of them a control character.
+bool IsUtf8Line(const std::string& text) {
+  int following = 0;  // bytes that the character still lacks
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    const bool continues = byte >= 0x80 && byte < 0xC0;
+    const bool control = byte < 0x20 || byte == 0x7F;
+    if (continues != (following > 0) || control || byte == 0xC0 || byte == 0xC1 || byte > 0xF4) {
+      return false;
+    }
+    following = continues ? following - 1 : byte < 0xC0 ? 0 : byte < 0xE0 ? 1 : byte < 0xF0 ? 2 : 3;
+  }
+  return following == 0;
+}
+
 int MonthOrReject(const std::string& text, const Texts& texts) {
   const std::optional<int> month = MonthNumber(text, texts);
   if (!month) {
@@ -112,6 +127,18 @@ CCalendarLunarDate ReadLunarDate(const std::string& option, const std::string& t
            "expected a lunar date such as 8-15, leap4-1 or 1984-leap10-15, not '" + text + "'");
   }
   return {year.value_or(0), *month, *day, 0, match[2].matched ? 1 : 0};
+}
+
+LunarBirthday ReadBirthday(const std::string& option, const std::string& text) {
+  const std::size_t sign = text.find('=');
+  if (sign == std::string::npos || sign + 1 == text.size()) {
+    Reject(option, "expected a lunar date and a name, such as 8-15=Name, not '" + text + "'");
+  }
+  const std::string name = text.substr(sign + 1);
+  if (!IsUtf8Line(name)) {
+    Reject(option, "the name is not a line of UTF-8");
+  }
+  return {ReadLunarDate(option, text.substr(0, sign)), name};
 }
 
 std::array<bool, 7> ReadBreakDays(const std::string& option, const std::string& text) {

@@ -49,6 +49,9 @@ CivilDate ReadDate(const std::string& option, const std::string& text);
 // "8-15", "leap4-1", "1984-10-15" or "1984-leap10-15".
 CCalendarLunarDate ReadLunarDate(const std::string& option, const std::string& text);
 
+// "8-15=Name", the name in UTF-8 and without control characters.
+LunarBirthday ReadBirthday(const std::string& option, const std::string& text);
+
 // "sat,sun", or "none".
 std::array<bool, 7> ReadBreakDays(const std::string& option, const std::string& text);
 

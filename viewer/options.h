@@ -22,6 +22,7 @@ enum class Task {
   kShowDay,
   kListYear,
   kShowBirthday,
+  kWriteCalendar,
   kFullScreen,
   kPrintText
 };
@@ -48,8 +49,9 @@ struct Options {
   CivilDate day;             // for Task::kShowDay
   std::optional<int> year;   // for Task::kListYear and the following two; none is this year
   LunarBirthday birthday;    // for Task::kShowBirthday
-  std::optional<int> years;  // for Task::kShowBirthday
-  std::string text;          // for Task::kPrintText
+  std::optional<int> years;  // for Task::kShowBirthday and the next one
+  std::vector<LunarBirthday> birthdays;  // for Task::kWriteCalendar
+  std::string text;                      // for Task::kPrintText
   bool json = false;
   bool dump = false;
   ColorMode color = ColorMode::kAuto;

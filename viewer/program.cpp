@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "program.h"
 
+#include <ctime>
 #include <stdexcept>
 #include <string>
 
@@ -8,7 +9,9 @@
 #include "birthdays.h"
 #include "board_host.h"
 #include "board_painter.h"
+#include "calendar_events.h"
 #include "error_report.h"
+#include "icalendar.h"
 #include "json_output.h"
 #include "listing.h"
 #include "month_grid.h"
@@ -56,6 +59,9 @@ class Program {
         break;
       case Task::kShowBirthday:
         ShowBirthday();
+        break;
+      case Task::kWriteCalendar:
+        WriteCalendar();
         break;
       case Task::kFullScreen:
         Navigate();
@@ -213,17 +219,21 @@ class Program {
     }
   }
 
+  void CheckBirth(const std::string& option, const LunarBirthday& birthday) const {
+    if (birthday.date.year != 0 && !BirthOf(m_annotator.Calendar(), birthday)) {
+      throw UsageError(option + ": the year " + std::to_string(birthday.date.year) +
+                       " has no such lunar day");
+    }
+  }
+
   // The day of birth, where its year is known, and the anniversaries from today or from a year on.
   void ShowBirthday() {
     constexpr int kAnniversaries = 10;
     const EAlmanacCalendar calendar = m_annotator.Calendar();
     const LunarBirthday& birthday = m_options.birthday;
     const CivilDate today = ReadToday();
+    CheckBirth("--lunar-date", birthday);
     const std::optional<Anniversary> birth = BirthOf(calendar, birthday);
-    if (birthday.date.year != 0 && !birth) {
-      throw UsageError("--lunar-date: the year " + std::to_string(birthday.date.year) +
-                       " has no such lunar day");
-    }
     const CivilDate first = m_options.year ? CivilDate{*m_options.year, 1, 1} : today;
     BirthdayReport report = {birthday, today,
                              AnniversariesOf(calendar, birthday, first, kLastDate,
@@ -236,6 +246,21 @@ class Program {
     } else {
       Print(BirthdayLines(report, m_texts));
     }
+  }
+
+  void WriteCalendar() {
+    const int first = m_options.year.value_or(ReadToday().year);
+    const int last = first + m_options.years.value_or(1) - 1;
+    if (last > kLastYear) {
+      throw UsageError("--years: " + std::to_string(*m_options.years) + " from " +
+                       std::to_string(first) + " on lead outside the years 1900 to 2099");
+    }
+    for (const LunarBirthday& birthday : m_options.birthdays) {
+      CheckBirth("--birthday", birthday);
+    }
+    const std::vector<CalendarEvent> events =
+        EventsOfYears(first, last, m_options.board.language, m_annotator, m_options.birthdays);
+    Write(ICalendarText(events, std::time(nullptr)));
   }
 
   void Print(const std::vector<Line>& lines) {

@@ -6,8 +6,8 @@
 
 declare -A PACKAGES=(
   [build]="g++ cmake ninja-build"
-  [viewer]="libcli11-dev nlohmann-json3-dev libncurses-dev"
-  [tests]="libgtest-dev libfaketime python3 tmux tzdata"
+  [viewer]="libcli11-dev nlohmann-json3-dev libncurses-dev libical-dev pkg-config"
+  [tests]="libgtest-dev libfaketime python3 python3-icalendar tmux tzdata"
   [full]="libicu-dev libswe-dev swe-standard-data libglib2.0-dev pkg-config clang libclang-rt-14-dev
     valgrind libc6-dbg abigail-tools nodejs npm ca-certificates locales python3-jsonschema"
   [emulation]="clang python3 g++-aarch64-linux-gnu qemu-user"
