@@ -663,4 +663,12 @@ TEST_F(BoardContent, ApiasBoardGoesOnAfterItsMissingDay) {
                                         "2 | 3 4 5 6 7b 8b 9"}));
 }
 
+// Known limit: each look at a winter day there steps back by one, and the focus is looked at twice.
+TEST_F(BoardContent, DublinInWinterShowsADayTwiceAndLeavesOneOut) {
+  const ScopedZone zone("Europe/Dublin");
+  m_board.SetDispMonth(eDispMonthDayStrip);
+  EXPECT_EQ(Build(2024, 1, 16), Texts{"3 | 11 12 13b 15 15 16 17"});
+  EXPECT_EQ(Build(2024, 7, 16), Texts{"29 | 13b 14b 15 16 17 18 19"});
+}
+
 }  // namespace
