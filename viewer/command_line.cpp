@@ -291,9 +291,7 @@ class CommandLine {
              });
     AddFlag("--ics", "The terms and festivals of a year for other calendars", kCalendar,
             [this] { SetTask(Task::kWriteCalendar, "--ics"); });
-    AddValue(
-        "--birthday", "DATE=NAME", "A lunar birthday for --ics; may be repeated", kCalendar,
-        [this](Text name, Text text) { m_options.birthdays.push_back(ReadBirthday(name, text)); });
+    DeclareBirthday();
     AddValue("--year", "YYYY", "The year to list or to begin with, instead of now", kTakesYear,
              [this](Text name, Text text) {
                m_options.year = ReadNumber(name, text, kFirstYear, kLastYear);
@@ -301,6 +299,26 @@ class CommandLine {
     AddValue("--years", "N", "How many years of --lunar-date (10) or --ics (1)",
              kBirthday | kCalendar,
              [this](Text name, Text text) { m_options.years = ReadNumber(name, text, 1, kYears); });
+  }
+
+  // Repeated among the arguments, a list in the file.
+  void DeclareBirthday() {
+    const auto take = [this](Text name, Text text) {
+      m_options.birthdays.push_back(ReadBirthday(name, text));
+    };
+    if (m_source == Source::kArguments) {
+      AddValue("--birthday", "DATE=NAME", "A lunar birthday for --ics; may be repeated", kCalendar,
+               take);
+      return;
+    }
+    const std::function<void(const std::vector<std::string>&)> takeAll =
+        [take](const std::vector<std::string>& texts) {
+          for (const std::string& text : texts) {
+            take("--birthday", text);
+          }
+        };
+    m_app.add_option_function("--birthday", takeAll)
+        ->expected(1, CLI::detail::expected_max_vector_size);
   }
 
   void DeclareOutput() {

@@ -50,6 +50,14 @@ class Configuration(unittest.TestCase):
                          output("--json", "--mode", "month").replace('"maxRow": 5', '"maxRow": 3')
                          .replace("3-5-7-1", "3-3-7-1"))
 
+    def test_birthdays_are_a_list_and_add_up(self):
+        for text in ('birthday = ["8-15=A, a", "1-1=B"]\n', 'birthday = "8-15=A, a"\n'):
+            self.configure(text)
+            names = re.findall(r"SUMMARY:([ABC](?:\\, a)?)\n", self.output("--ics", "--birthday", "2-2=C"))
+            self.assertEqual(sorted(names),
+                             ["A\\, a", *(["B"] if "B" in text else []), "C"])
+            self.assertEqual(self.output(), output())
+
     def test_in_the_home(self):
         os.makedirs(os.path.join(self.folder.name, ".config"))
         os.rename(os.path.dirname(self.path), os.path.join(self.folder.name, ".config/almara"))
