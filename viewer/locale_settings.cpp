@@ -8,6 +8,7 @@
 #include <clocale>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <cwchar>
 #include <initializer_list>
 
@@ -41,10 +42,11 @@ ECalendarWeek FirstDayOfLocale() {
   if (name == "C" || name == "POSIX" || name.rfind("C.", 0) == 0) {
     return eCalendarWeekMonday;
   }
-  constexpr std::uintptr_t kSunday = 19971130;
-  // This one item is a number in the place of the text.
-  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
-  const auto listBegin = reinterpret_cast<std::uintptr_t>(nl_langinfo(_NL_TIME_WEEK_1STDAY));
+  // This one item is a number of 32 bits at the beginning of the pointer; the rest may be anything.
+  const char* item = nl_langinfo(_NL_TIME_WEEK_1STDAY);
+  std::uint32_t listBegin = 0;
+  std::memcpy(&listBegin, &item, sizeof listBegin);
+  constexpr std::uint32_t kSunday = 19971130;
   const int place = *nl_langinfo(_NL_TIME_FIRST_WEEKDAY) - 1;
   return (place + (listBegin == kSunday ? 0 : 1)) % 7;
 }

@@ -252,10 +252,11 @@ class FullScreen(unittest.TestCase):
 @needs_terminal
 class Terminals(unittest.TestCase):
     def full_screen(self, **settings):
-        """The program on a pseudo-terminal that is not its controlling one."""
+        """The program, on any day, on a pseudo-terminal that is not its controlling one."""
         main, end = pty.openpty()
-        process = subprocess.Popen([BOARD, "--tui"], env=environment(**settings), stdin=end,
-                                   stdout=end, stderr=subprocess.PIPE, encoding="utf-8")
+        variables = environment(LD_PRELOAD=None, **settings)
+        process = subprocess.Popen([BOARD, "--tui"], env=variables, stdin=end, stdout=end,
+                                   stderr=subprocess.PIPE, encoding="utf-8")
         os.close(end)
         return process, main
 
@@ -273,7 +274,7 @@ class Terminals(unittest.TestCase):
             process, main = self.full_screen(TERM=terminal)
             _, errors = process.communicate(timeout=30)
             os.close(main)
-            self.assertEqual(process.returncode, 2)
+            self.assertEqual(process.returncode, 2, errors)
             self.assertIn("this terminal cannot show a full screen (is TERM right?)", errors)
 
 
