@@ -40,12 +40,6 @@ class VisiblePartOfBoard : public testing::Test {
   Board m_board;
 };
 
-TEST_F(VisiblePartOfBoard, EmptyBoardShowsNoRow) {
-  Build(1899, 12, 31);
-  EXPECT_EQ(m_board.VisibleRows(), Indices{});
-  EXPECT_EQ(m_board.VisibleColumns(), Range(0, 7));
-}
-
 TEST_F(VisiblePartOfBoard, SevenColumnsAreAllVisibleWhereverTodayStands) {
   for (int day = 11; day <= 17; ++day) {
     SetToday(2024, 3, day);

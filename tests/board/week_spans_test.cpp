@@ -288,11 +288,4 @@ TEST_F(SpansOfBoards, HiddenRowsAreSkipped) {
                                        {24, 5, 0, 0, 0, 1}}));
 }
 
-TEST_F(SpansOfBoards, NewYearAfterABandCountedFrom1January) {
-  m_board.SetWeekNumberCalcType(0);
-  m_board.SetMaxRows(3);
-  EXPECT_EQ(Build(2025, 1, 1),
-            (Spans{{52, 7, 0, 0, 0, 1}, {53, 2, 0, 5, 7, 1}, {1, 2, 0, 5, 7, 1}}));
-}
-
 }  // namespace
