@@ -10,10 +10,6 @@ void CCalendarConfig::SetMaxColumns(int columns) {
   }
 }
 
-bool CCalendarConfig::IsBreakDayOfWeek(int day) const {
-  return almara::IsDayOfWeek(day) && m_breakDayOfWeek[static_cast<std::size_t>(day)] == 1;
-}
-
 void CCalendarConfig::SetBreakDayOfWeek(int day, bool on) {
   if (almara::IsDayOfWeek(day)) {
     m_breakDayOfWeek[static_cast<std::size_t>(day)] = on ? 1 : 0;

@@ -5,6 +5,7 @@
 #include <almara/almara_types.h>
 
 #include <array>
+#include <cstddef>
 #include <string>
 
 #include "date/day_counting.h"
@@ -50,7 +51,9 @@ class CCalendarConfig {
   void SetShowMonthInterval(bool show) { m_showMonthInterval = show; }
 
   // Break days of the week. A day outside 0 to 6 is none and cannot become one.
-  bool IsBreakDayOfWeek(int day) const;
+  bool IsBreakDayOfWeek(int day) const {
+    return almara::IsDayOfWeek(day) && m_breakDayOfWeek[static_cast<std::size_t>(day)] == 1;
+  }
   void SetBreakDayOfWeek(int day, bool on);
 
   // Whether the columns of break days, and rows left without content, are visible.

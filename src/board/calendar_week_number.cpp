@@ -21,20 +21,17 @@ int DayOfNewYearFromMonday(int year) {
 }
 
 // ISO 8601 week of an accepted date. A year's first days belong to the year before if it begins
-// after a Thursday, its last days to the year after if their week's Thursday does.
+// after a Thursday, its last days to the year after if that begins on a Thursday or before.
 int IsoWeek(int year, int month, int day) {
   const int newYear = DayOfNewYearFromMonday(year);
-  const int dayOfYear = almara::DayOfYear(year, month, day);
-  const bool startsLate = newYear > kThursday;
-  if (startsLate && dayOfYear <= kDaysOfWeek - newYear) {
+  const int weeksBefore = (almara::DayOfYear(year, month, day) - 1 + newYear) / kDaysOfWeek;
+  const int week = newYear > kThursday ? weeksBefore : weeksBefore + 1;
+  if (week == 0) {
     const bool longYearBefore = newYear == 4 || (newYear == 5 && almara::IsLeapYear(year - 1));
     return longYearBefore ? 53 : 52;
   }
-  const int weekday = (dayOfYear + newYear - 1) % kDaysOfWeek;
-  if (almara::DaysOfYear(year) - dayOfYear < kThursday - weekday) {
-    return 1;
-  }
-  return (dayOfYear + newYear + 6 - weekday) / kDaysOfWeek - (startsLate ? 1 : 0);
+  const int nextNewYear = (newYear + almara::DaysOfYear(year)) % kDaysOfWeek;
+  return week == 53 && nextNewYear <= kThursday ? 1 : week;
 }
 
 // Days from 1 January to an accepted date.

@@ -21,9 +21,16 @@ ECalendarItem KindOfDay(bool isToday, bool isBreakDay) {
   return isBreakDay ? eCalendarItemBreakDay : eCalendarItemDay;
 }
 
-// Gives a cell the date and the kind of its entry, and notes the days among the cells.
-void FillCell(const BoardRequest& request, const CCalendarSolarDateEx& entry, CCalendarItem& item,
-              BoardContent& content) {
+bool ShowsDay(const CCalendarItem& item) {
+  return item.GetType() >= eCalendarItemDay && item.GetType() <= eCalendarItemTodayBreakDay;
+}
+
+bool ShowsToday(const CCalendarItem& item) {
+  return item.GetType() == eCalendarItemToday || item.GetType() == eCalendarItemTodayBreakDay;
+}
+
+// Gives a cell the date and the kind of its entry.
+void FillCell(const BoardRequest& request, const CCalendarSolarDateEx& entry, CCalendarItem& item) {
   item.Copy(entry.ShownDate());
   if (entry.IsIntervalTitle()) {
     item.SetType(eCalendarItemMonthTitle);
@@ -38,13 +45,26 @@ void FillCell(const BoardRequest& request, const CCalendarSolarDateEx& entry, CC
   const bool isToday =
       entry.year == today.year && entry.month == today.month && entry.day == today.day;
   item.SetType(KindOfDay(isToday, request.options.IsBreakDayOfWeek(entry.dayOfWeek)));
-  if (isToday) {
-    content.todayColumn = item.GetColumn();
+}
+
+// Notes the days of the next row. The cells noted have no week number yet.
+void NoteDays(const tagCalendarRow& row, BoardContent& content) {
+  const CCalendarItem* last = nullptr;
+  for (const CCalendarItem& item : row.items) {
+    if (!ShowsDay(item)) {
+      continue;
+    }
+    last = &item;
+    if (content.first.GetType() == eCalendarItemEmpty) {
+      content.first = item;
+    }
+    if (ShowsToday(item)) {
+      content.todayColumn = item.GetColumn();
+    }
   }
-  if (content.first.GetType() == eCalendarItemEmpty) {
-    content.first = item;
+  if (last != nullptr) {
+    content.last = *last;
   }
-  content.last = item;
 }
 
 // Counts the week from the configured start week. With the counting of type 2, the weeks of the
@@ -67,6 +87,29 @@ int ShownWeekNumber(const BoardRequest& request, const CCalendarSolarDate& date,
   return week;
 }
 
+// Whether two neighbouring cells show days of one week of one month. Weeks begin on Monday.
+bool IsSameWeek(const CCalendarItem& before, const CCalendarItem& item) {
+  const CCalendarSolarDate& dayBefore = before.GetDate();
+  const CCalendarSolarDate& day = item.GetDate();
+  return ShowsDay(before) && ShowsDay(item) && day.dayOfWeek != eCalendarWeekMonday &&
+         day.year == dayBefore.year && day.month == dayBefore.month && day.day == dayBefore.day + 1;
+}
+
+// Numbers the cells of a row. Only where days are counted in seconds can the number change within a
+// week of a month.
+void NumberCells(const BoardRequest& request, tagCalendarRow& row,
+                 CCalendarWeekNumber& weekNumbers) {
+  const bool sharesNumbers = request.options.GetWeekNumberCalcType() == eWeekNumberCalcIso8601 ||
+                             request.options.GetDayCounting() == DayCounting::kCivil;
+  const CCalendarItem* before = nullptr;
+  for (CCalendarItem& item : row.items) {
+    item.SetWeekNumber(sharesNumbers && before != nullptr && IsSameWeek(*before, item)
+                           ? before->GetWeekNumber()
+                           : ShownWeekNumber(request, item.GetDate(), weekNumbers));
+    before = &item;
+  }
+}
+
 }  // namespace
 
 BoardContent FillCells(const BoardRequest& request, const DateList& display, int rowCount,
@@ -83,9 +126,12 @@ BoardContent FillCells(const BoardRequest& request, const DateList& display, int
       item.SetRow(r);
       item.SetColumn(c);
       if (index < display.size()) {
-        FillCell(request, display[index], item, content);
+        FillCell(request, display[index], item);
       }
-      item.SetWeekNumber(ShownWeekNumber(request, item.GetDate(), weekNumbers));
+    }
+    NoteDays(row, content);
+    NumberCells(request, row, weekNumbers);
+    for (const CCalendarItem& item : row.items) {
       if (item.GetWeekNumber() != kNoWeek) {
         rowWeekNumber = item.GetWeekNumber();
       }
