@@ -17,7 +17,7 @@ std::vector<CalendarEvent> AllEvents(ELanguage region, LunarSource source) {
   InitCalendarLogicDt(region);
   Annotator annotator(region, source);
   return EventsOfYears(kFirstYear, kLastYear, region, annotator,
-                       {{{1984, 10, 29, 0, 1}, "A, B; C\\ \"D\""}, {{0, 8, 15, 0, 0}, "엄마"}});
+                       {{{1984, 10, 29, 0, 1}, R"(A, B; C\ "D")"}, {{0, 8, 15, 0, 0}, "엄마"}});
 }
 
 TEST(ICalendar, TheFormatIsKeptAndReadsBackAsItWas) {
