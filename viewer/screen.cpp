@@ -10,6 +10,7 @@
 #include <cstdlib>
 
 #include "error_report.h"
+#include "terminal_check.h"
 #include "text_layout.h"
 
 namespace almara::viewer {
@@ -92,13 +93,14 @@ KeyPress ReadMouse() {
 }
 
 screen* OpenTerminal() {
+  if (!CanMoveCursor(STDOUT_FILENO)) {
+    throw UsageError(kUnsuitable);
+  }
   // The window's size is the terminal's, not that of LINES and COLUMNS.
   unsetenv("LINES");
   unsetenv("COLUMNS");
   return newterm(nullptr, stdout, stdin);
 }
-
-bool CanMoveCursor() { return tigetstr("cup") != nullptr; }
 
 }  // namespace
 
@@ -107,11 +109,6 @@ Screen::Screen(Palette palette) : m_screen(OpenTerminal()) {
     throw UsageError(kUnsuitable);
   }
   set_term(m_screen);
-  if (!CanMoveCursor()) {
-    endwin();
-    delscreen(m_screen);
-    throw UsageError(kUnsuitable);
-  }
   cbreak();
   noecho();
   keypad(stdscr, TRUE);
