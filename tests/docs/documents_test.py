@@ -89,7 +89,7 @@ class Documents(Snippets):
         described = set()
         manual = (ROOT / "docs/man/almara-board.1").read_text(encoding="utf-8")
         for line in re.findall(r"^\.It Fl (.*)$", manual, re.MULTILINE):
-            names = line.partition(" Ar")[0].replace("Fl", "").replace(",", "").split()
+            names = re.split(" Ar| Oo", line)[0].replace("Fl", "").replace(",", "").split()
             described.update("-" + name for name in names)
         offered = set()
         for line in re.findall(r"^  (-\S+)", output_of(VIEWER, "--help"), re.MULTILINE):
