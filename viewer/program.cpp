@@ -263,7 +263,7 @@ class Program {
     Write(ICalendarText(events, std::time(nullptr)));
   }
 
-  void Print(const std::vector<Line>& lines) {
+  void Print(const std::vector<Line>& lines) const {
     std::vector<Line> fitting;
     for (const Line& line : lines) {
       Append(fitting, Wrapped(line, m_settings.width, kIndent));

@@ -25,112 +25,112 @@ class AnnotationMemo : public testing::Test {
  protected:
   AnnotationMemo() { g_mac_timezone = 8; }
 
-  Engine engine;
+  Engine m_engine;
 };
 
 TEST_F(AnnotationMemo, ASecondQueryComputesNothing) {
   const CCalendarSolarDate date{2024, 2, 10, 6};
-  engine.m_mapLunarDateCache.GetOrCompute(0, date, [] {
+  m_engine.m_mapLunarDateCache.GetOrCompute(0, date, [] {
     return CCalendarLunarDate{1, 2, 3, 4, 5};
   });
-  engine.m_map24SekkiCache.GetOrCompute(0, date, [] { return 77; });
-  engine.m_mapFestivalSolarCache.GetOrCompute(eLanguageChs, date, [] { return 78; });
-  engine.m_mapFestivalLunarCache.GetOrCompute(eLanguageChs, date, [] { return 79; });
-  EXPECT_EQ(engine.ConverterLunar(date).day, 3);
-  EXPECT_EQ(engine.Check24Sekki(date), 77);
-  EXPECT_EQ(engine.CheckFestivalSolar(eLanguageChs, date), 78);
-  EXPECT_EQ(engine.CheckFestivalLunar(eLanguageChs, date), 79);
+  m_engine.m_map24SekkiCache.GetOrCompute(0, date, [] { return 77; });
+  m_engine.m_mapFestivalSolarCache.GetOrCompute(eLanguageChs, date, [] { return 78; });
+  m_engine.m_mapFestivalLunarCache.GetOrCompute(eLanguageChs, date, [] { return 79; });
+  EXPECT_EQ(m_engine.ConverterLunar(date).day, 3);
+  EXPECT_EQ(m_engine.Check24Sekki(date), 77);
+  EXPECT_EQ(m_engine.CheckFestivalSolar(eLanguageChs, date), 78);
+  EXPECT_EQ(m_engine.CheckFestivalLunar(eLanguageChs, date), 79);
 }
 
 TEST_F(AnnotationMemo, TheDayOfTheWeekIsNotPartOfTheKey) {
-  engine.Check24Sekki({2024, 3, 20, 4});
-  engine.Check24Sekki({2024, 3, 20, 0});
-  EXPECT_EQ(engine.m_map24SekkiCache.Size(), 1U);
-  EXPECT_EQ(*engine.m_map24SekkiCache.Find(0, {2024, 3, 20, 1}), eSekkiSpringEquinox);
-  engine.ConverterLunar({2024, 2, 10, 5});
-  engine.ConverterLunar({2024, 2, 10, 0});
-  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 1U);
-  engine.CheckFestivalSolar(eLanguageUsa, {2024, 2, 10, 5});
-  engine.CheckFestivalSolar(eLanguageUsa, {2024, 2, 10, 0});
-  EXPECT_EQ(engine.m_mapFestivalSolarCache.Size(), 1U);
-  engine.CheckFestivalLunar(eLanguageUsa, {2024, 2, 10, 5});
-  engine.CheckFestivalLunar(eLanguageUsa, {2024, 2, 10, 0});
-  EXPECT_EQ(engine.m_mapFestivalLunarCache.Size(), 1U);
+  m_engine.Check24Sekki({2024, 3, 20, 4});
+  m_engine.Check24Sekki({2024, 3, 20, 0});
+  EXPECT_EQ(m_engine.m_map24SekkiCache.Size(), 1U);
+  EXPECT_EQ(*m_engine.m_map24SekkiCache.Find(0, {2024, 3, 20, 1}), eSekkiSpringEquinox);
+  m_engine.ConverterLunar({2024, 2, 10, 5});
+  m_engine.ConverterLunar({2024, 2, 10, 0});
+  EXPECT_EQ(m_engine.m_mapLunarDateCache.Size(), 1U);
+  m_engine.CheckFestivalSolar(eLanguageUsa, {2024, 2, 10, 5});
+  m_engine.CheckFestivalSolar(eLanguageUsa, {2024, 2, 10, 0});
+  EXPECT_EQ(m_engine.m_mapFestivalSolarCache.Size(), 1U);
+  m_engine.CheckFestivalLunar(eLanguageUsa, {2024, 2, 10, 5});
+  m_engine.CheckFestivalLunar(eLanguageUsa, {2024, 2, 10, 0});
+  EXPECT_EQ(m_engine.m_mapFestivalLunarCache.Size(), 1U);
 }
 
 TEST_F(AnnotationMemo, KeepsAFestivalForEachLanguage) {
-  engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 1, 0});
-  engine.CheckFestivalSolar(eLanguageEng, {2024, 1, 1, 0});
-  ASSERT_EQ(engine.m_mapFestivalSolarCache.Size(), 2U);
-  EXPECT_NE(engine.m_mapFestivalSolarCache.Find(eLanguageChs, {2024, 1, 1, 0}), nullptr);
-  EXPECT_NE(engine.m_mapFestivalSolarCache.Find(eLanguageEng, {2024, 1, 1, 0}), nullptr);
+  m_engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 1, 0});
+  m_engine.CheckFestivalSolar(eLanguageEng, {2024, 1, 1, 0});
+  ASSERT_EQ(m_engine.m_mapFestivalSolarCache.Size(), 2U);
+  EXPECT_NE(m_engine.m_mapFestivalSolarCache.Find(eLanguageChs, {2024, 1, 1, 0}), nullptr);
+  EXPECT_NE(m_engine.m_mapFestivalSolarCache.Find(eLanguageEng, {2024, 1, 1, 0}), nullptr);
 }
 
 TEST_F(AnnotationMemo, KeepsTheAnswerThatThereIsNone) {
-  engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 9, 0});
-  engine.CheckFestivalLunar(eLanguageUsa, {2024, 1, 9, 0});
-  engine.Check24Sekki({2024, 1, 9, 0});
-  EXPECT_EQ(*engine.m_mapFestivalSolarCache.Find(eLanguageChs, {2024, 1, 9, 0}), 0);
-  EXPECT_EQ(*engine.m_mapFestivalLunarCache.Find(eLanguageUsa, {2024, 1, 9, 0}), 0);
-  EXPECT_EQ(*engine.m_map24SekkiCache.Find(0, {2024, 1, 9, 0}), -1);
+  m_engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 9, 0});
+  m_engine.CheckFestivalLunar(eLanguageUsa, {2024, 1, 9, 0});
+  m_engine.Check24Sekki({2024, 1, 9, 0});
+  EXPECT_EQ(*m_engine.m_mapFestivalSolarCache.Find(eLanguageChs, {2024, 1, 9, 0}), 0);
+  EXPECT_EQ(*m_engine.m_mapFestivalLunarCache.Find(eLanguageUsa, {2024, 1, 9, 0}), 0);
+  EXPECT_EQ(*m_engine.m_map24SekkiCache.Find(0, {2024, 1, 9, 0}), -1);
 }
 
 TEST_F(AnnotationMemo, KeepsEveryInt) {
-  engine.CheckFestivalSolar(kMin, {kMin, kMin, kMin, kMin});
-  engine.CheckFestivalLunar(kMax, {kMax, kMax, kMax, kMax});
-  engine.ConverterLunar({-1, 1, 1, 0});
-  EXPECT_NE(engine.m_mapFestivalSolarCache.Find(kMin, {kMin, kMin, kMin, 0}), nullptr);
-  EXPECT_NE(engine.m_mapFestivalLunarCache.Find(kMax, {kMax, kMax, kMax, 0}), nullptr);
-  EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {-1, 1, 1, 0}), nullptr);
+  m_engine.CheckFestivalSolar(kMin, {kMin, kMin, kMin, kMin});
+  m_engine.CheckFestivalLunar(kMax, {kMax, kMax, kMax, kMax});
+  m_engine.ConverterLunar({-1, 1, 1, 0});
+  EXPECT_NE(m_engine.m_mapFestivalSolarCache.Find(kMin, {kMin, kMin, kMin, 0}), nullptr);
+  EXPECT_NE(m_engine.m_mapFestivalLunarCache.Find(kMax, {kMax, kMax, kMax, 0}), nullptr);
+  EXPECT_NE(m_engine.m_mapLunarDateCache.Find(0, {-1, 1, 1, 0}), nullptr);
 }
 
 TEST_F(AnnotationMemo, AFirstQuestionOfZeroesIsNotTakenForKept) {
-  EXPECT_NE(engine.ConverterLunar({0, 0, 0, 0}).month, 0);
-  EXPECT_EQ(engine.Check24Sekki({0, 0, 0, 0}), eSekkiNone);
+  EXPECT_NE(m_engine.ConverterLunar({0, 0, 0, 0}).month, 0);
+  EXPECT_EQ(m_engine.Check24Sekki({0, 0, 0, 0}), eSekkiNone);
 }
 
 TEST_F(AnnotationMemo, DaysThatShareAPageKeepTheirOwnAnswers) {
-  engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 33, 0});
-  EXPECT_EQ(engine.m_mapFestivalSolarCache.Find(eLanguageChs, {2024, 1, 1, 0}), nullptr);
-  EXPECT_EQ(engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 1, 0}), eFestivalSolarNewYearsDay);
-  EXPECT_EQ(engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 33, 0}), eFestivalSolarNone);
-  EXPECT_EQ(engine.CheckFestivalSolar(eLanguageChs, {2024, 1, -31, 0}), eFestivalSolarNone);
-  EXPECT_EQ(engine.m_mapFestivalSolarCache.Size(), 3U);
+  m_engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 33, 0});
+  EXPECT_EQ(m_engine.m_mapFestivalSolarCache.Find(eLanguageChs, {2024, 1, 1, 0}), nullptr);
+  EXPECT_EQ(m_engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 1, 0}), eFestivalSolarNewYearsDay);
+  EXPECT_EQ(m_engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 33, 0}), eFestivalSolarNone);
+  EXPECT_EQ(m_engine.CheckFestivalSolar(eLanguageChs, {2024, 1, -31, 0}), eFestivalSolarNone);
+  EXPECT_EQ(m_engine.m_mapFestivalSolarCache.Size(), 3U);
 }
 
 TEST_F(AnnotationMemo, ALunarFestivalKeepsTheLunarDateToo) {
-  engine.CheckFestivalLunar(eLanguageChs, {2024, 5, 1, 0});
-  EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {2024, 5, 1, 0}), nullptr);
-  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 1U);
+  m_engine.CheckFestivalLunar(eLanguageChs, {2024, 5, 1, 0});
+  EXPECT_NE(m_engine.m_mapLunarDateCache.Find(0, {2024, 5, 1, 0}), nullptr);
+  EXPECT_EQ(m_engine.m_mapLunarDateCache.Size(), 1U);
 }
 
 TEST_F(AnnotationMemo, ADayOfMonthTwelveKeepsTheLunarDateOfTheNextDay) {
-  engine.CheckFestivalLunar(eLanguageChs, {2024, 2, 5, 0});
-  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 2U);
-  EXPECT_NE(engine.m_mapLunarDateCache.Find(0, {2024, 2, 6, 0}), nullptr);
+  m_engine.CheckFestivalLunar(eLanguageChs, {2024, 2, 5, 0});
+  EXPECT_EQ(m_engine.m_mapLunarDateCache.Size(), 2U);
+  EXPECT_NE(m_engine.m_mapLunarDateCache.Find(0, {2024, 2, 6, 0}), nullptr);
   // 12/23 has a festival of its own, and in Korean there is no eve.
-  engine.CheckFestivalLunar(eLanguageChs, {2024, 2, 2, 0});
-  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 3U);
-  engine.CheckFestivalLunar(eLanguageKor, {2024, 1, 30, 0});
-  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 4U);
+  m_engine.CheckFestivalLunar(eLanguageChs, {2024, 2, 2, 0});
+  EXPECT_EQ(m_engine.m_mapLunarDateCache.Size(), 3U);
+  m_engine.CheckFestivalLunar(eLanguageKor, {2024, 1, 30, 0});
+  EXPECT_EQ(m_engine.m_mapLunarDateCache.Size(), 4U);
 }
 
 TEST_F(AnnotationMemo, OtherLanguagesDoNotAskForLunarDates) {
   for (const ELanguage language : {0, 3, 5, 6, 7, 8, 10, 11}) {
-    engine.CheckFestivalLunar(language, {2024, 2, 10, 0});
+    m_engine.CheckFestivalLunar(language, {2024, 2, 10, 0});
   }
-  EXPECT_EQ(engine.m_mapLunarDateCache.Size(), 0U);
-  EXPECT_EQ(engine.m_mapFestivalLunarCache.Size(), 8U);
+  EXPECT_EQ(m_engine.m_mapLunarDateCache.Size(), 0U);
+  EXPECT_EQ(m_engine.m_mapFestivalLunarCache.Size(), 8U);
 }
 
 TEST_F(AnnotationMemo, AnswersOutliveAChangeOfTheZone) {
-  EXPECT_EQ(engine.ConverterLunar({2024, 2, 9, 0}).month, 12);
-  EXPECT_EQ(engine.Check24Sekki({2024, 6, 21, 0}), eSekkiSummerSolstice);
-  EXPECT_EQ(engine.CheckFestivalLunar(eLanguageChs, {2024, 2, 9, 0}), eFestivalLunarNewYearsEve);
+  EXPECT_EQ(m_engine.ConverterLunar({2024, 2, 9, 0}).month, 12);
+  EXPECT_EQ(m_engine.Check24Sekki({2024, 6, 21, 0}), eSekkiSummerSolstice);
+  EXPECT_EQ(m_engine.CheckFestivalLunar(eLanguageChs, {2024, 2, 9, 0}), eFestivalLunarNewYearsEve);
   g_mac_timezone = 0;
-  EXPECT_EQ(engine.ConverterLunar({2024, 2, 9, 0}).month, 12);
-  EXPECT_EQ(engine.Check24Sekki({2024, 6, 21, 0}), eSekkiSummerSolstice);
-  EXPECT_EQ(engine.CheckFestivalLunar(eLanguageChs, {2024, 2, 9, 0}), eFestivalLunarNewYearsEve);
+  EXPECT_EQ(m_engine.ConverterLunar({2024, 2, 9, 0}).month, 12);
+  EXPECT_EQ(m_engine.Check24Sekki({2024, 6, 21, 0}), eSekkiSummerSolstice);
+  EXPECT_EQ(m_engine.CheckFestivalLunar(eLanguageChs, {2024, 2, 9, 0}), eFestivalLunarNewYearsEve);
   // Another engine has answers of its own.
   EXPECT_EQ(Engine().ConverterLunar({2024, 2, 9, 0}).month, 1);
 }
