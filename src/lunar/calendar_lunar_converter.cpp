@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "lunar/calendar_lunar_converter.h"
 
-#include <cstdio>
 #include <optional>
 
 #include "date/calendar_platform_api.h"
+#include "date/decimal_text.h"
 #include "lunar/ecliptic_longitude.h"
 #include "lunar/longitude_search.h"
 #include "lunar/lunar_date.h"
@@ -14,9 +14,8 @@ namespace {
 double Zone() { return CalendarPlatformApi::PlatformGetTimeZoneValue(); }
 
 std::string DateOf2017(int month, int day) {
-  char text[16];
-  std::snprintf(text, sizeof text, "2017-%02d-%02d", month, day);
-  return text;
+  char text[3 * almara::kMaxDecimalLength + 2];
+  return {text, almara::AppendDate(text, 2017, month, day)};
 }
 
 template <typename Out>
