@@ -51,7 +51,7 @@ class DateMemo {
 
   // Forgets every answer and gives its memory back.
   void Clear() {
-    m_blocks.clear();
+    m_blocks = Blocks();
     m_lastPage = nullptr;
   }
 
@@ -126,7 +126,8 @@ class DateMemo {
     return *m_lastPage;
   }
 
-  std::unordered_map<PageKey, MonthBlock, HashOfKey> m_blocks;
+  using Blocks = std::unordered_map<PageKey, MonthBlock, HashOfKey>;
+  Blocks m_blocks;
   PageKey m_lastKey{};
   Page* m_lastPage = nullptr;  // of m_lastKey
 };

@@ -68,6 +68,8 @@ void SetDefaultOptions() {
   SetShowMonthInterval(options.monthInterval);
   SetShowBreakDayOfWeek(options.showBreakDay);
   SetWeekNumberCalcType(options.calcType);
+  SetPrintBoard(options.printBoard);
+  SetCivilDays(options.civilDays);
   for (std::int32_t day = 0; day < kDaysInRow; ++day) {
     SetBreakDayOfWeek(day, options.breakDay[static_cast<std::size_t>(day)]);
   }
@@ -75,6 +77,8 @@ void SetDefaultOptions() {
 
 // Begins with the options and the board of a fresh engine, whatever came before.
 void Repeat(const std::vector<std::uint8_t>& bytes) {
+  setenv("TZ", "UTC", 1);  // a session may have left another zone
+  tzset();
   SetDefaultOptions();
   SetNow(1710331200);  // 2024-03-13 12:00:00 UTC
   GotoToday();

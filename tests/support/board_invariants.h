@@ -103,8 +103,9 @@ inline const char* BrokenCell(const tagCalendarCell& cell) {
              : "a day has its day of the week";
 }
 
-// Days are counted from the focus date in seconds of 32 bits, which wrap here.
-constexpr int kReachInDays = 24855;
+// Days are counted from the focus date in seconds of 32 bits, which wrap after 24855 days. Between
+// two days shown there, hidden columns may leave out the days around the wrap.
+constexpr int kReachInDays = 24855 - 2 * kDaysInRow;
 
 inline bool IsWithinReach(const tagCalendarCell& day, const CCalendarSolarDate& focus) {
   const int days = DayNumber(day) - DayNumber(Civil{focus.year, focus.month, focus.day});
