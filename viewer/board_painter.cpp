@@ -267,7 +267,9 @@ Piece TitlePiece(const BoardSnapshot& board, const PaintSettings& settings, int 
 
 }  // namespace
 
-PaintedBoard PaintBoard(const BoardSnapshot& board, const PaintSettings& settings) {
+PaintedBoard PaintBoard(const BoardSnapshot& built, const PaintSettings& settings) {
+  const bool wholeMonth = built.options.mode == eDispMonthWholeMonth;
+  const BoardSnapshot board = wholeMonth ? MonthAlone(built) : built;
   const Geometry geometry = GeometryFor(board, settings);
   PaintedBoard painted = geometry.compact ? PaintNarrow(board, settings, geometry)
                                           : BoardPainter(board, settings, geometry).Paint();

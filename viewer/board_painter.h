@@ -29,7 +29,8 @@ struct PaintedBoard {
   std::vector<std::vector<Line>> rows;  // the lines of each visible row, the same number for all
 };
 
-PaintedBoard PaintBoard(const BoardSnapshot& board, const PaintSettings& settings);
+// A whole month is drawn without what follows it.
+PaintedBoard PaintBoard(const BoardSnapshot& built, const PaintSettings& settings);
 
 }  // namespace almara::viewer
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "board_snapshot.h"
 
+#include <algorithm>
+
 namespace almara::viewer {
 
 bool ShowsDay(const tagCalendarCell& cell) {
@@ -35,6 +37,26 @@ std::vector<CivilDate> ShownDays(const BoardSnapshot& board) {
     }
   }
   return days;
+}
+
+BoardSnapshot MonthAlone(BoardSnapshot board) {
+  for (auto& row : board.rows) {
+    for (tagCalendarCell& cell : row) {
+      if (IsInterval(cell)) {
+        cell.type = eCalendarItemEmpty;
+      }
+    }
+  }
+  const auto showsDay = [](const auto& row) {
+    return std::any_of(row.begin(), row.end(), ShowsDay);
+  };
+  while (!board.rows.empty() && !showsDay(board.rows.back())) {
+    board.rows.pop_back();
+    if (!board.weekSpans.empty() && --board.weekSpans.back().rows == 0) {
+      board.weekSpans.pop_back();
+    }
+  }
+  return board;
 }
 
 const tagCalendarCell* FindDay(const BoardSnapshot& board, CivilDate date) {

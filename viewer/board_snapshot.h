@@ -43,6 +43,10 @@ CivilDate DateOf(const CCalendarSolarDate& date);
 // The shown days from the first row to the last.
 std::vector<CivilDate> ShownDays(const BoardSnapshot& board);
 
+// The board of a whole month without the interval of the next month, nor rows that hold nothing
+// else.
+BoardSnapshot MonthAlone(BoardSnapshot board);
+
 const tagCalendarCell* FindDay(const BoardSnapshot& board, CivilDate date);
 
 }  // namespace almara::viewer

@@ -72,7 +72,7 @@ class CompactPainter {
       line.push_back(Mark(nullptr, row.empty() ? nullptr : &row.front()));
     }
     for (std::size_t column = 0; column < row.size();) {
-      const std::size_t end = m_compact.monthAlone ? column : IntervalEnd(row, column);
+      const std::size_t end = IntervalEnd(row, column);
       if (end > column) {
         line.push_back({IntervalText(m_texts, m_glyphs, row[column], IntervalWidth(column, end)),
                         Role::kMonthTitle});
@@ -120,7 +120,7 @@ class CompactPainter {
       if (m_compact.festivals.count(DateOf(*before)) > 0) {
         return {"*", Role::kFestival};
       }
-      if (!m_compact.monthAlone && IsBreakDay(*before)) {
+      if (m_compact.breakMarks && IsBreakDay(*before)) {
         return {m_glyphs.breakDay, Role::kBreakDay};
       }
     }

@@ -12,9 +12,9 @@ namespace almara::viewer {
 
 struct CompactSettings {
   bool weekNumbers = false;
-  int width = 0;  // what is over it is left out: the place before the first day, then that
-                  // after the last
-  bool monthAlone = false;        // leaves the intervals of other months blank
+  int width = 0;           // what is over it is left out: the place before the first day, then that
+                           // after the last
+  bool breakMarks = true;  // whether break days have a mark beside their colour
   std::set<CivilDate> festivals;  // marked with an asterisk
 };
 

@@ -47,6 +47,11 @@ std::string BashScript(const std::vector<OptionEntry>& options,
   return "# Completion of almara-board for bash.\n"
          "_almara_board() {\n"
          "  local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} words\n"
+         "  if [[ $current == '=' ]]; then\n"
+         "    current=''\n"
+         "  elif [[ $previous == '=' ]]; then\n"
+         "    previous=${COMP_WORDS[COMP_CWORD - 2]}\n"
+         "  fi\n"
          "  case $previous in\n" +
          cases + "    *) words=" + Quoted(Joined(names, " ") + " " + Joined(arguments, " ")) +
          " ;;\n"

@@ -75,17 +75,14 @@ std::vector<Line> MonthLines(const BoardSnapshot& month, const GridLayout& layou
   CompactSettings compact;
   compact.weekNumbers = layout.weekNumbers;
   compact.width = layout.monthWidth;
-  compact.monthAlone = true;
+  compact.breakMarks = false;
   compact.festivals = FestivalsOf(month, settings.annotator);
   const PaintedBoard painted = PaintCompact(month, compact, settings);
   std::vector<Line> lines = {
       {{Fit(title, layout.monthWidth, settings.glyphs->ellipsis, Align::kCenter), Role::kTitle}},
       painted.headings};
-  for (std::size_t row = 0; row < painted.rows.size(); ++row) {
-    const auto& cells = month.rows[row];
-    if (std::any_of(cells.begin(), cells.end(), ShowsDay)) {
-      lines.push_back(painted.rows[row].front());
-    }
+  for (const std::vector<Line>& row : painted.rows) {
+    lines.push_back(row.front());
   }
   return lines;
 }

@@ -32,9 +32,8 @@ bool Names(const std::string& text, const std::string& name) {
                           InLowerCase(name.substr(0, text.size())) == InLowerCase(text));
 }
 
-[[noreturn]] void RejectArgument(const std::string& text) {
-  throw UsageError("'" + text +
-                   "' is neither a month nor a year from 1900 to 2099; see almara-board --help");
+[[noreturn]] void RejectArgument(const std::string& text, const std::string& problem) {
+  throw UsageError("'" + text + "' " + problem + "; see almara-board --help");
 }
 
 // Whether these are characters of UTF-8, none of them a control character.
@@ -55,7 +54,7 @@ bool IsUtf8Line(const std::string& text) {
 int MonthOrReject(const std::string& text, const Texts& texts) {
   const std::optional<int> month = MonthNumber(text, texts);
   if (!month) {
-    RejectArgument(text);
+    RejectArgument(text, "is not a month");
   }
   return *month;
 }
@@ -63,21 +62,26 @@ int MonthOrReject(const std::string& text, const Texts& texts) {
 int YearOrReject(const std::string& text) {
   const std::optional<int> year = YearNumber(text);
   if (!year) {
-    RejectArgument(text);
+    RejectArgument(text, "is not a year from 1900 to 2099");
   }
   return *year;
 }
 
-When ReadOne(const std::string& text, const Texts& texts) {
+// Of "2024-02", and nothing of any other text.
+std::optional<When> MonthAndYear(const std::string& text, const Texts& texts) {
   static const std::regex kMonth(R"((\d{4})-(\d{1,2}))");
   std::smatch match;
-  if (std::regex_match(text, match, kMonth)) {
-    const std::optional<int> year = YearNumber(match[1]);
-    const std::optional<int> month = MonthNumber(match[2], texts);
-    if (!year || !month) {
-      RejectArgument(text);
-    }
-    return {std::nullopt, month, year};
+  if (!std::regex_match(text, match, kMonth)) {
+    return std::nullopt;
+  }
+  const std::optional<int> year = YearNumber(match[1]);
+  const std::optional<int> month = MonthNumber(match[2], texts);
+  return year && month ? std::optional<When>({std::nullopt, month, year}) : std::nullopt;
+}
+
+When ReadOne(const std::string& text, const Texts& texts) {
+  if (const std::optional<When> month = MonthAndYear(text, texts)) {
+    return *month;
   }
   if (const std::optional<CivilDate> date = ParseDate(text).date) {
     return {date->day, date->month, date->year};
@@ -85,7 +89,10 @@ When ReadOne(const std::string& text, const Texts& texts) {
   if (const std::optional<int> year = YearNumber(text)) {
     return {std::nullopt, std::nullopt, year};
   }
-  return {std::nullopt, MonthOrReject(text, texts), std::nullopt};
+  if (const std::optional<int> month = MonthNumber(text, texts)) {
+    return {std::nullopt, month, std::nullopt};
+  }
+  RejectArgument(text, "is neither a month nor a year from 1900 to 2099");
 }
 
 }  // namespace

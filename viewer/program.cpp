@@ -115,7 +115,18 @@ class Program {
       ShowDate(m_options.board, Focus());
     }
     for (const Step& step : m_options.steps) {
-      TakeStep(step);
+      TakeStepOrReject(step);
+    }
+  }
+
+  // At the ends of the calendar the engine leaves the board as it is.
+  void TakeStepOrReject(const Step& step) const {
+    const std::vector<CivilDate> before = ShownDays(ReadBoard(m_options.board));
+    TakeStep(step);
+    if (step.kind != Step::Kind::kOffset && ShownDays(ReadBoard(m_options.board)) == before) {
+      throw UsageError(step.kind == Step::Kind::kNext
+                           ? "--next: the calendar ends with 2099"
+                           : "--previous: the calendar begins with 1900");
     }
   }
 
@@ -159,7 +170,7 @@ class Program {
       const CivilDate date = FirstOfMonth(month);
       if (IsInCalendar(date)) {
         ShowDate(options, date);
-        boards.push_back(ReadBoard(options));
+        boards.push_back(MonthAlone(ReadBoard(options)));
       }
     }
     return boards;

@@ -131,6 +131,8 @@ class Completion(unittest.TestCase):
         self.assertEqual(self.bash("--mo"), ["--mode"])
         self.assertEqual(self.bash("--mode", ""), ["rolling", "tail", "month", "strip"])
         self.assertEqual(self.bash("--first-day", "s"), ["sun", "sat"])
+        self.assertEqual(self.bash("--mode", "=", "s"), ["strip"])
+        self.assertEqual(self.bash("--lunar", "="), ["almanac", "engine"])
         self.assertEqual(self.bash("--rows", ""), [])
         self.assertEqual(self.bash("ju"), ["june", "july"])
 

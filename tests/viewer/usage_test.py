@@ -38,6 +38,10 @@ class Usage(unittest.TestCase):
                 (("--offset", "9999"), "--offset: 9999 leads outside the years 1900 to 2099"),
                 (("--mode", "month", "--offset", "-1491"),
                  "--offset: -1491 leads outside the years 1900 to 2099"),
+                (("--mode", "month", "--date", "2099-12-31", "--next"),
+                 "--next: the calendar ends with 2099"),
+                (("--date", "1900-01-10", "--json", "--previous", "--next"),
+                 "--previous: the calendar begins with 1900"),
                 (("--start-week", "54"), "--start-week: expected a number from 1 to 53, not '54'"),
                 (("--mode", "year"),
                  "--mode: expected one of rolling, tail, month, strip, not 'year'"),
@@ -106,6 +110,8 @@ class Usage(unittest.TestCase):
                 (("--width", "19"), "--width: expected a number from 20 to 1000, not '19'"),
                 (("--nope",), "unknown argument '--nope'; see almara-board --help"),
                 (("1", "2", "2024", "5"), "unknown argument '5'; see almara-board --help"),
+                (("2024", "5"), "'2024' is not a month; see almara-board --help"),
+                (("5", "24"), "'24' is not a year from 1900 to 2099; see almara-board --help"),
                 (("30", "2", "2024"), "day: expected a number from 1 to 29, not '30'"),
         ]:
             result = run(*arguments)
