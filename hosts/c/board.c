@@ -6,76 +6,69 @@
 #include <almara/almara.h>
 #include <stdio.h>
 #include <stdlib.h>
-#include <unistd.h>
 
 static const char* const kMonths[] = {"January",   "February", "March",    "April",
                                       "May",       "June",     "July",     "August",
                                       "September", "October",  "November", "December"};
 static const char* const kDays[] = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
 
-/* Where this program writes; the engine writes every board that it builds to stdout. */
-static FILE* OpenScreen(void) {
-  FILE* screen = fdopen(dup(STDOUT_FILENO), "w");
-  return freopen("/dev/null", "w", stdout) != NULL ? screen : NULL;
-}
-
-static void PrintHeadings(FILE* screen, int columns) {
+static void PrintHeadings(int columns) {
   CCalendarSolarDate date = GetContentDate();
   char title[32];
   int length = snprintf(title, sizeof title, "%s %d", kMonths[date.month - 1], (int)date.year);
-  fprintf(screen, "%*s%s\n   Wk  ", (7 + 10 * columns - length) / 2, "", title);
+  printf("%*s%s\n   Wk  ", (7 + 10 * columns - length) / 2, "", title);
   for (int column = 0; column < columns; column++) {
-    fprintf(screen, " %-9s", kDays[GetCalendarWeekByColumns(column)]);
+    printf(" %-9s", kDays[GetCalendarWeekByColumns(column)]);
   }
-  fputc('\n', screen);
+  putchar('\n');
 }
 
 /* " 9", "10." for a break day, "[11]" for today. */
-static void PrintCell(FILE* screen, tagCalendarCell cell) {
+static void PrintCell(tagCalendarCell cell) {
   switch (cell.type) {
     case eCalendarItemDay:
-      fprintf(screen, " %2d       ", (int)cell.day);
+      printf(" %2d       ", (int)cell.day);
       break;
     case eCalendarItemToday:
-      fprintf(screen, "[%2d]      ", (int)cell.day);
+      printf("[%2d]      ", (int)cell.day);
       break;
     case eCalendarItemBreakDay:
-      fprintf(screen, " %2d.      ", (int)cell.day);
+      printf(" %2d.      ", (int)cell.day);
       break;
     case eCalendarItemTodayBreakDay:
-      fprintf(screen, "[%2d].     ", (int)cell.day);
+      printf("[%2d].     ", (int)cell.day);
       break;
     default:
-      fprintf(screen, "          ");
+      printf("          ");
   }
 }
 
-static void PrintWeeks(FILE* screen, int columns) {
+static void PrintWeeks(int columns) {
   int row = 0;
   for (int index = 0; index < GetWeekNumberCount(); index++) {
     tagWeekNumberSpan span = GetWeekNumberItemWithIndex(index);
     for (int end = row + span.rows; row < end; row++) {
-      fprintf(screen, "%5d  ", (int)span.weekNumber);
+      printf("%5d  ", (int)span.weekNumber);
       for (int column = 0; column < columns; column++) {
-        PrintCell(screen, GetContentItem(row, column));
+        PrintCell(GetContentItem(row, column));
       }
-      fputc('\n', screen);
+      putchar('\n');
     }
   }
 }
 
-static void PrintAnnotations(FILE* screen, CCalendarSolarDate date) {
+static void PrintAnnotations(CCalendarSolarDate date) {
   CCalendarLunarDate lunar = ConverterLunarWithDate(date);
-  fprintf(screen, "%d-%02d-%02d: lunar %d-%d-%d%s, solar term %d, festivals %d %d\n",
-          (int)date.year, (int)date.month, (int)date.day, (int)lunar.year, (int)lunar.month,
-          (int)lunar.day, lunar.leap ? " in a leap month" : "", (int)Check24SekkiWithDate(date),
-          (int)CheckFestivalSolarWithLang(eLanguageChs, date),
-          (int)CheckFestivalLunarWithLang(eLanguageChs, date));
+  printf("%d-%02d-%02d: lunar %d-%d-%d%s, solar term %d, festivals %d %d\n", (int)date.year,
+         (int)date.month, (int)date.day, (int)lunar.year, (int)lunar.month, (int)lunar.day,
+         lunar.leap ? " in a leap month" : "", (int)Check24SekkiWithDate(date),
+         (int)CheckFestivalSolarWithLang(eLanguageChs, date),
+         (int)CheckFestivalLunarWithLang(eLanguageChs, date));
 }
 
-static void PrintOptions(FILE* screen) {
+static void PrintOptions(void) {
   char* key = GetConfigKey();
-  fprintf(screen, "options %s\n", key != NULL ? key : "unknown");
+  printf("options %s\n", key != NULL ? key : "unknown");
   free(key);
 }
 
@@ -85,20 +78,17 @@ int main(int argc, char** argv) {
     fprintf(stderr, "usage: board [YYYY-MM-DD]\n");
     return 2;
   }
-  FILE* screen = OpenScreen();
-  if (screen == NULL) {
-    perror("board");
-    return 1;
-  }
+  SetPrintBoard(false); /* the engine would write every board to the standard output, too */
+  SetCivilDays(true);
   SetDispMonth(eDispMonthWholeMonth);
   SetShowMonthInterval(false);
   InitCalendarLogicDt(eLanguageChs);
   if (argc > 1) {
     GotoSpecifiedDate(year, month, day);
   }
-  PrintHeadings(screen, GetContentColumns());
-  PrintWeeks(screen, GetContentColumns());
-  PrintAnnotations(screen, GetContentDate());
-  PrintOptions(screen);
-  return fclose(screen) == 0 ? 0 : 1;
+  PrintHeadings(GetContentColumns());
+  PrintWeeks(GetContentColumns());
+  PrintAnnotations(GetContentDate());
+  PrintOptions();
+  return fflush(stdout) == 0 ? 0 : 1;
 }

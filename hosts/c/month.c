@@ -4,13 +4,10 @@
  */
 #include <almara/almara.h>
 #include <stdio.h>
-#include <unistd.h>
 
 int main(void) {
-  FILE* screen = fdopen(dup(STDOUT_FILENO), "w");
-  if (screen == NULL || freopen("/dev/null", "w", stdout) == NULL) {
-    return 1; /* the engine writes every board to stdout; this program writes to screen */
-  }
+  SetPrintBoard(false); /* the engine would write every board to the standard output, too */
+  SetCivilDays(true);
   SetDispMonth(eDispMonthWholeMonth);
   SetShowMonthInterval(false);
   InitCalendarLogicDt(eLanguageEng);
@@ -18,9 +15,9 @@ int main(void) {
   for (int32_t row = 0; row < GetContentRows(); row++) {
     for (int32_t column = 0; column < GetContentColumns(); column++) {
       tagCalendarCell cell = GetContentItem(row, column);
-      fprintf(screen, cell.month == 2 ? "%4d" : "    ", (int)cell.day);
+      printf(cell.month == 2 ? "%4d" : "    ", (int)cell.day);
     }
-    fprintf(screen, "\n");
+    printf("\n");
   }
-  return fclose(screen);
+  return 0;
 }

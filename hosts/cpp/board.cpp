@@ -3,8 +3,6 @@
 // Shows the month of a date (today, if none is given) with week numbers, and what that date is in
 // the lunisolar calendar: a complete host of the calendar engine in C++.
 #include <almara/almara.h>
-#include <fcntl.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -20,29 +18,9 @@ const std::string kMonths[] = {"January",   "February", "March",    "April",
                                "September", "October",  "November", "December"};
 const std::string kDays[] = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
 
-// The engine writes every board that it builds to stdout; nothing of it arrives while this lives.
-class QuietStdout {
- public:
-  QuietStdout() : m_saved(dup(STDOUT_FILENO)) {
-    std::fflush(stdout);
-    const int null = open("/dev/null", O_WRONLY);
-    dup2(null, STDOUT_FILENO);
-    close(null);
-  }
-  ~QuietStdout() {
-    std::fflush(stdout);
-    dup2(m_saved, STDOUT_FILENO);
-    close(m_saved);
-  }
-  QuietStdout(const QuietStdout&) = delete;
-  QuietStdout& operator=(const QuietStdout&) = delete;
-
- private:
-  const int m_saved;
-};
-
 bool BuildBoard(const char* date) {
-  const QuietStdout quiet;
+  SetPrintBoard(false);  // the engine would write every board to the standard output, too
+  SetCivilDays(true);
   SetDispMonth(eDispMonthWholeMonth);
   SetShowMonthInterval(false);
   InitCalendarLogicDt(eLanguageChs);

@@ -4,8 +4,6 @@
 // the lunisolar calendar: a complete host of the calendar engine for Node.js.
 'use strict';
 
-const fs = require('fs');
-const koffi = require('koffi');
 const almara = require('./almara.js');
 
 const cellTexts = {
@@ -17,14 +15,6 @@ const cellTexts = {
 const months = ['January', 'February', 'March', 'April', 'May', 'June', 'July', 'August',
   'September', 'October', 'November', 'December'];
 const days = ['Sun', 'Mon', 'Tue', 'Wed', 'Thu', 'Fri', 'Sat'];
-
-// The descriptor that this program writes to; the engine writes every board to descriptor 1.
-function keepScreen() {
-  const libc = koffi.load(null);
-  const screen = libc.func('int dup(int descriptor)')(1);
-  libc.func('int dup2(int from, int to)')(fs.openSync('/dev/null', 'w'), 1);
-  return screen;
-}
 
 function range(count) {
   return [...Array(count).keys()];
@@ -73,8 +63,9 @@ function main(text) {
     console.error('usage: board.js [YYYY-MM-DD]');
     process.exit(2);
   }
-  const screen = keepScreen();
   const engine = almara.load();
+  engine.SetPrintBoard(false); // the engine would write every board to descriptor 1, too
+  engine.SetCivilDays(true);
   engine.SetDispMonth(almara.eDispMonthWholeMonth);
   engine.SetShowMonthInterval(false);
   engine.InitCalendarLogicDt(almara.eLanguageChs);
@@ -82,7 +73,7 @@ function main(text) {
     engine.GotoSpecifiedDate(...date.slice(1).map(Number));
   }
   const lines = [...boardLines(engine), annotationLine(engine), `options ${engine.GetConfigKey()}`];
-  fs.writeSync(screen, lines.join('\n') + '\n');
+  console.log(lines.join('\n'));
 }
 
 main(process.argv[2]);

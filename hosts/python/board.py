@@ -2,7 +2,6 @@
 # SPDX-License-Identifier: MIT
 """Shows the month of a date (today, if none is given) with week numbers, and what that date is in
 the lunisolar calendar: a complete host of the calendar engine in Python."""
-import os
 import re
 import sys
 
@@ -13,13 +12,6 @@ MONTHS = ("January February March April May June July August September October N
 DAYS = "Sun Mon Tue Wed Thu Fri Sat".split()
 
 
-def keep_screen():
-    """Where this program writes; the engine writes every board that it builds to descriptor 1."""
-    screen = os.fdopen(os.dup(1), "w")
-    os.dup2(os.open(os.devnull, os.O_WRONLY), 1)
-    return screen
-
-
 def cell_text(cell):
     """ 9, 10. for a break day, [11] for today."""
     return {almara.eCalendarItemDay: f" {cell.day:2}",
@@ -28,24 +20,23 @@ def cell_text(cell):
             almara.eCalendarItemTodayBreakDay: f"[{cell.day:2}]."}.get(cell.type, "")
 
 
-def print_board(engine, screen):
+def print_board(engine):
     columns = range(engine.GetContentColumns())
     date = engine.GetContentDate()
     title = f"{MONTHS[date.month - 1]} {date.year}"
-    print(" " * ((7 + 10 * len(columns) - len(title)) // 2) + title, file=screen)
+    print(" " * ((7 + 10 * len(columns) - len(title)) // 2) + title)
     headings = (DAYS[engine.GetCalendarWeekByColumns(column)] for column in columns)
-    print("   Wk  " + "".join(f" {day:9}" for day in headings), file=screen)
+    print("   Wk  " + "".join(f" {day:9}" for day in headings))
     row = 0
     for index in range(engine.GetWeekNumberCount()):
         span = engine.GetWeekNumberItemWithIndex(index)
         for row in range(row, row + span.rows):
             cells = (engine.GetContentItem(row, column) for column in columns)
-            print(f"{span.weekNumber:5}  " + "".join(f"{cell_text(cell):10}" for cell in cells),
-                  file=screen)
+            print(f"{span.weekNumber:5}  " + "".join(f"{cell_text(cell):10}" for cell in cells))
         row += 1
 
 
-def print_annotations(engine, screen):
+def print_annotations(engine):
     date = engine.GetContentDate()
     lunar = engine.ConverterLunarWithDate(date)
     leap = " in a leap month" if lunar.leap else ""
@@ -53,24 +44,24 @@ def print_annotations(engine, screen):
           f"lunar {lunar.year}-{lunar.month}-{lunar.day}{leap}, "
           f"solar term {engine.Check24SekkiWithDate(date)}, "
           f"festivals {engine.CheckFestivalSolarWithLang(almara.eLanguageChs, date)} "
-          f"{engine.CheckFestivalLunarWithLang(almara.eLanguageChs, date)}", file=screen)
+          f"{engine.CheckFestivalLunarWithLang(almara.eLanguageChs, date)}")
 
 
 def main(arguments):
     date = re.fullmatch(r"(\d+)-(\d+)-(\d+)", arguments[0]) if arguments else None
     if arguments and not date:
         sys.exit("usage: board.py [YYYY-MM-DD]")
-    screen = keep_screen()
     engine = almara.load()
+    engine.SetPrintBoard(False)  # the engine would write every board to descriptor 1, too
+    engine.SetCivilDays(True)
     engine.SetDispMonth(almara.eDispMonthWholeMonth)
     engine.SetShowMonthInterval(False)
     engine.InitCalendarLogicDt(almara.eLanguageChs)
     if date:
         engine.GotoSpecifiedDate(*map(int, date.groups()))
-    print_board(engine, screen)
-    print_annotations(engine, screen)
-    print("options", engine.GetConfigKey(), file=screen)
-    screen.close()
+    print_board(engine)
+    print_annotations(engine)
+    print("options", engine.GetConfigKey())
 
 
 if __name__ == "__main__":

@@ -56,7 +56,7 @@ class Documents(Snippets):
         def run(code):
             with tempfile.TemporaryDirectory() as folder:
                 Path(folder, "program.c").write_text(code, encoding="utf-8")
-                output_of(os.environ["CC"], "-std=gnu99", "-Wall", "-Wextra", "-Werror",
+                output_of(os.environ["CC"], "-std=c99", "-Wall", "-Wextra", "-Werror",
                           "program.c", "-o", "program", f"-I{ROOT / 'include'}", f"-L{library}",
                           "-lalmara", folder=folder)
                 return output_of("./program", folder=folder)
