@@ -4,11 +4,11 @@
 namespace almara::viewer {
 namespace {
 
-// Each colour has a contrast of about 4 or more against black and against white.
-constexpr int kRed = 160;      // d70000
+// Each colour has a contrast of at least 4.5 on black and on white, what WCAG 2 asks of texts.
+constexpr int kRed = 131;      // af5f5f
 constexpr int kMagenta = 163;  // d700af
-constexpr int kGreen = 28;     // 008700
-constexpr int kBlue = 31;      // 0087af
+constexpr int kGreen = 29;     // 00875f
+constexpr int kBlue = 63;      // 5f5fff
 constexpr int kBasicRed = 1;
 constexpr int kBasicMagenta = 5;
 

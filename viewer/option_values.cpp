@@ -167,7 +167,7 @@ std::optional<int> MonthNumber(const std::string& text, const Texts& texts) {
   const Texts english = TextsEnglish();
   for (int month = 1; month <= 12; ++month) {
     if (Names(text, Month(english, month)) || text == Month(texts, month) ||
-        text == ShortMonth(texts, month)) {
+        text == MonthInDate(texts, month) || text == ShortMonth(texts, month)) {
       return month;
     }
   }

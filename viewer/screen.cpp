@@ -18,10 +18,14 @@ namespace {
 
 constexpr int kEscapeDelayMs = 25;  // an Escape key is not the beginning of a sequence after this
 
-// The reverse of a look is left to the selection; today is underlined instead.
-attr_t AttributesOf(const Look& look) {
-  return (look.bold ? A_BOLD : A_NORMAL) | (look.dim ? A_DIM : A_NORMAL) |
-         (look.reverse ? A_UNDERLINE : A_NORMAL);
+// The selection is the terminal's own look turned round, which can be read on any ground. So today,
+// which is reversed elsewhere, is underlined.
+attr_t AttributesOf(const Look& look, bool selected) {
+  const attr_t bold = look.bold ? A_BOLD : A_NORMAL;
+  if (selected) {
+    return bold | A_REVERSE;
+  }
+  return bold | (look.dim ? A_DIM : A_NORMAL) | (look.reverse ? A_UNDERLINE : A_NORMAL);
 }
 
 // The colour pair of a role; pair 0 is the terminal's own look.
@@ -140,13 +144,13 @@ void Screen::Draw(const std::vector<Line>& lines, const Line& status) {
 void Screen::DrawLine(int row, const Line& line) const {
   int column = 0;
   for (const Piece& piece : line) {
-    // The selection is the terminal's own look turned round, which can be read on any ground.
-    const attr_t selection = piece.selected ? A_REVERSE : A_NORMAL;
     const bool colored = m_palette != Palette::kNone && !piece.selected;
     const std::string text = Shorten(piece.text, COLS - column, "");
-    attr_set(AttributesOf(LookOf(piece.role)) | selection, colored ? PairOf(piece.role) : short{0},
-             nullptr);
-    mvaddstr(row, column, text.c_str());
+    // The spaces after a text have a look only where they are part of the selection.
+    const std::size_t end = piece.selected ? text.size() : text.find_last_not_of(' ') + 1;
+    attr_set(AttributesOf(LookOf(piece.role), piece.selected),
+             colored ? PairOf(piece.role) : short{0}, nullptr);
+    mvaddnstr(row, column, text.c_str(), static_cast<int>(end));
     column += DisplayWidth(text);
   }
   attr_set(A_NORMAL, 0, nullptr);

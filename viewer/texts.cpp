@@ -57,16 +57,19 @@ const char* Month(const Texts& texts, int month) {
   return texts.months[static_cast<std::size_t>(month - 1)];
 }
 
+const char* MonthInDate(const Texts& texts, int month) {
+  return texts.monthsInDates[static_cast<std::size_t>(month - 1)];
+}
+
 const char* ShortMonth(const Texts& texts, int month) {
   return texts.shortMonths[static_cast<std::size_t>(month - 1)];
 }
 
 std::string FullDateText(const Texts& texts, CivilDate date) {
-  const auto month = static_cast<std::size_t>(date.month - 1);
   return FillPattern(texts.fullDate,
                      {{'y', std::to_string(date.year)},
                       {'m', std::to_string(date.month)},
-                      {'M', texts.monthsInDates[month]},
+                      {'M', MonthInDate(texts, date.month)},
                       {'d', std::to_string(date.day)},
                       {'w', texts.longWeekdays[static_cast<std::size_t>(DayOfWeek(date))]}});
 }

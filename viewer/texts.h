@@ -104,6 +104,7 @@ Texts TextsFor(ELanguage region, bool utf8);
 const char* Weekday(const Texts& texts, ECalendarWeek day);
 const char* NarrowWeekday(const Texts& texts, ECalendarWeek day);
 const char* Month(const Texts& texts, int month);
+const char* MonthInDate(const Texts& texts, int month);
 const char* ShortMonth(const Texts& texts, int month);
 
 // "Saturday, 10 February 2024"

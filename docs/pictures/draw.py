@@ -178,7 +178,9 @@ def draw_quarter(picture, engine, x, y, first, last, title):
         picture.text(left + width / 2, bar + 20, name if width > 50 else "", anchor="middle")
         if lunar.day == 1:
             picture.shapes.append(f'<circle cx="{left:g}" cy="{bar:g}" r="5" fill="{INK}"/>')
-            picture.text(left + 7, bar - 6, f"{begin.day} {MONTHS[begin.month - 1][:3]}", SOFT, size=10)
+            at_end = left + 40 > x + 1080
+            picture.text(left + (-7 if at_end else 7), bar - 6, f"{begin.day} {MONTHS[begin.month - 1][:3]}", SOFT,
+                         "end" if at_end else "start", size=10)
     for day, longitude in terms:
         at = x + ((day - first).days + 0.5) * scale
         season = longitude % 90 == 0
@@ -218,20 +220,20 @@ def page_direction(folder):
         picture.text(x + 65, y + 24, name, anchor="middle", weight="bold", size=14)
         picture.text(x + 65, y + 43, notes[name], SOFT, "middle", size=9)
     picture.path("M385 142 H194", arrow=True)
-    picture.path("M515 142 H706", arrow=True)
-    picture.path("M190 174 H381", arrow=True)
+    picture.path("M519 142 H706", arrow=True)
+    picture.path("M194 174 H381", arrow=True)
     picture.path("M710 174 H519", arrow=True)
     for x, page, date in ((290, "GotoPreviousPage()", "before the board"), (612, "GotoNextPage()", "after the board")):
-        picture.text(x, 116, page, anchor="middle", size=11)
-        picture.text(x, 132, f"GotoSpecifiedDate() {date}", anchor="middle", size=11)
+        picture.text(x, 110, page, anchor="middle", size=11)
+        picture.text(x, 125, f"GotoSpecifiedDate() {date}", anchor="middle", size=11)
         picture.text(x, 194, "GotoToday(), InitCalendarLogicDt()", anchor="middle", size=11)
         picture.text(x, 210, "GotoTodayOffset()", anchor="middle", size=11)
         picture.text(x, 226, "GotoSpecifiedDate() on the board", anchor="middle", size=11)
         picture.text(x, 242, "Build() when the focus is not today", anchor="middle", size=11)
     picture.path("M125 130 C125 60 775 60 775 126", arrow=True)
-    picture.path("M775 186 C775 300 125 300 125 190", arrow=True)
+    picture.path("M775 186 C775 318 125 318 125 190", arrow=True)
     picture.text(450, 70, "GotoNextPage(), a date after the board", anchor="middle", size=11)
-    picture.text(450, 290, "GotoPreviousPage(), a date before the board", anchor="middle", size=11)
+    picture.text(450, 301, "GotoPreviousPage(), a date before the board", anchor="middle", size=11)
     picture.text(20, 24, "Page direction", weight="bold", size=14)
     picture.text(20, 42, "Kept by everything else: Build() on today's board, every setter, also of the arrangement.",
                  SOFT, size=11)

@@ -88,7 +88,7 @@ class OnTheBoard(unittest.TestCase):
     def test_colors(self):
         board = output("--language", "usa", "--color=always")
         self.assertIn("\033[38;5;163m Women's\033[0m", board)
-        self.assertIn("\033[38;5;28m Equinox\033[0m", board)
+        self.assertIn("\033[38;5;29m Equinox\033[0m", board)
         self.assertIn("\033[2m L24\033[0m", board)
 
     def test_cells_in_json(self):

@@ -294,8 +294,8 @@ class Colors(unittest.TestCase):
     def test_kinds_of_cells_have_their_own_color(self):
         board = output("--color=always")
         self.assertIn("\033[1;7m[12]\033[0m", board)
-        self.assertIn("\033[38;5;160m 16·\033[0m", board)
-        self.assertIn("\033[38;5;31m─ April ─", board)
+        self.assertIn("\033[38;5;131m 16·\033[0m", board)
+        self.assertIn("\033[38;5;63m─ April ─", board)
         self.assertEqual(re.sub(r"\033\[[0-9;]*m", "", board), output())
 
     def test_basic_colors_are_those_that_can_be_read_on_black_and_on_white(self):
@@ -367,7 +367,7 @@ class Widths(unittest.TestCase):
     def test_lines_in_ascii_with_the_texts_of_the_region(self):
         board = output("--language", "chs", "--ascii")
         self.assertIn("   10 /  4 ", board)
-        self.assertIn("- 四月 ---", board)
+        self.assertIn("- 4月 ---", board)
         self.assertFalse(set("╭│╰─·…") & set(output("--language", "chs", "--ascii", "--rows", "9")))
 
 

@@ -19,7 +19,7 @@ class OneMonth(unittest.TestCase):
             self.assertEqual(output(*arguments), february, arguments)
 
     def test_a_month_in_the_language_of_the_region(self):
-        for language, name in (("chs", "二月"), ("kor", "2월"), ("vit", "Th2")):
+        for language, name in (("chs", "二月"), ("chs", "2月"), ("rus", "февраля"), ("kor", "2월"), ("vit", "Th2")):
             self.assertEqual(output("--language", language, name),
                              output("--language", language, "2"))
 

@@ -9,11 +9,12 @@ Texts TextsChineseTraditional() {
   texts.weekdays = {"週日", "週一", "週二", "週三", "週四", "週五", "週六"};
   texts.narrowWeekdays = {"日", "一", "二", "三", "四", "五", "六"};
   texts.longWeekdays = {"星期日", "星期一", "星期二", "星期三", "星期四", "星期五", "星期六"};
-  texts.months = {"一月", "二月", "三月", "四月", "五月",   "六月",
-                  "七月", "八月", "九月", "十月", "十一月", "十二月"};
-  texts.monthsInDates = texts.months;
-  texts.shortMonths = {"1月", "2月", "3月", "4月",  "5月",  "6月",
-                       "7月", "8月", "9月", "10月", "11月", "12月"};
+  // In digits, since 二月 on a board is the lunar month.
+  texts.months = {"1月", "2月", "3月", "4月",  "5月",  "6月",
+                  "7月", "8月", "9月", "10月", "11月", "12月"};
+  texts.monthsInDates = {"一月", "二月", "三月", "四月", "五月",   "六月",
+                         "七月", "八月", "九月", "十月", "十一月", "十二月"};
+  texts.shortMonths = texts.months;
 
   texts.fullDate = "{y}年{m}月{d}日 {w}";
   texts.dayOfMonth = "{S}{d}日";
