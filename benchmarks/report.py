@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Runs the benchmark programs and prints how their medians compare.
 
-    report.py BUILD_DIRECTORY [--repetitions N] [--plot FILE.svg]
+    report.py BUILD_DIRECTORY [--repetitions N]
 
 Both sides of a ratio are measured in one run of one program, in random interleaving, on one core.
 Exits 1 if a goal is missed.
@@ -10,7 +10,6 @@ Exits 1 if a goal is missed.
 
 import argparse
 import json
-import math
 import os
 import statistics
 import subprocess
@@ -121,8 +120,7 @@ def compare(results, build):
                                 f"UnprintedBoardBuild/civil/{mode}")
                   for mode in (1, 2, 3)], 5)
     yield faster("page turn, board and all look-ups", f"{icu} alone",
-                 [results.ratio(f"PageTurnsIcu/{mode}/24", f"PageTurns<CCalendarLogic>/{mode}/24")
-                  for mode in (1, 3)], 5)
+                 [results.ratio(f"PageTurnsIcu/{mode}/24", f"PageTurns/{mode}/24") for mode in (1, 3)], 5)
     yield slower("a look-up answered before", "one find in a std::map of that size",
                  [results.ratio(f"KeptAnswers/{order}/{size}", f"MapFind/{order}/{size}")
                   for order in ("in_order", "random_order") for size in SIZES], 1.25)
@@ -154,56 +152,10 @@ def compare(results, build):
            f"{results.counters['BytesOfAnsweredDate']:.0f} bytes", "", True)
 
 
-def plot(results, path):
-    """Draws the cost of 24 page turns in the plain and in the present form, on a log scale."""
-    pages = range(1, 25)
-    series = [
-        ("plainest form", "#b0413e",
-         [results.median(f"PageTurn<yardstick::Engine>/{page}") / 1e3 for page in pages]),
-        ("now", "#2f6690",
-         [results.median(f"PageTurn<CCalendarLogic>/{page}") / 1e3 for page in pages]),
-    ]
-    left, top, width, height = 70, 40, 620, 260
-    decades = [10, 100, 1000, 10000, 100000]
-
-    def y(value):
-        return top + height * (1 - (math.log10(max(value, 10)) - 1) / (len(decades) - 1))
-
-    lines = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{left + width + 30}" '
-             f'height="{top + height + 60}" font-family="sans-serif" font-size="12">',
-             '<rect width="100%" height="100%" fill="white"/>',
-             f'<text x="{left}" y="20" font-size="14">Turning to a month never seen before: '
-             'microseconds for board and all look-ups</text>']
-    for decade in decades:
-        lines.append(f'<line x1="{left}" y1="{y(decade):.1f}" x2="{left + width}" '
-                     f'y2="{y(decade):.1f}" stroke="#ddd"/>'
-                     f'<text x="{left - 8}" y="{y(decade) + 4:.1f}" text-anchor="end">'
-                     f'{decade}</text>')
-    step = width / len(pages)
-    for name, colour, values in series:
-        for page, value in zip(pages, values):
-            x = left + (page - 0.5) * step
-            lines.append(f'<circle cx="{x:.1f}" cy="{y(value):.1f}" r="4" fill="{colour}">'
-                         f'<title>{name}, page {page}: {value:.0f}</title></circle>')
-    for page in (1, 6, 12, 18, 24):
-        lines.append(f'<text x="{left + (page - 0.5) * step:.1f}" y="{top + height + 18}" '
-                     f'text-anchor="middle">{page}</text>')
-    lines.append(f'<text x="{left + width / 2}" y="{top + height + 38}" text-anchor="middle">'
-                 'page, one month each, from January 2010</text>')
-    for row, (name, colour, _) in enumerate(series):
-        lines.append(f'<circle cx="{left + width - 110}" cy="{top + 14 + 18 * row}" r="4" '
-                     f'fill="{colour}"/><text x="{left + width - 100}" y="{top + 18 + 18 * row}">'
-                     f'{name}</text>')
-    lines.append("</svg>\n")
-    with open(path, "w", encoding="utf-8") as file:
-        file.write("\n".join(lines))
-
-
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("build")
     parser.add_argument("--repetitions", type=int, default=5)
-    parser.add_argument("--plot", help="write the plot of page turns to this SVG file")
     arguments = parser.parse_args()
 
     results = run_programs(arguments.build, arguments.repetitions)
@@ -212,8 +164,6 @@ def main():
     print("| --- | --- | --- | --- |")
     for work, against, measured, goal, met in rows:
         print(f"| {work} | {against} | {measured} | {goal}{'' if met else ' (MISSED)'} |")
-    if arguments.plot:
-        plot(results, arguments.plot)
     return 0 if all(row[-1] for row in rows) else 1
 
 
