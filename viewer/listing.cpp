@@ -11,6 +11,15 @@ namespace {
 
 constexpr int kGap = 3;  // cells between the columns of the legend
 
+std::vector<CivilDate> DaysOfYear(int year) {
+  std::vector<CivilDate> days(static_cast<std::size_t>(DaysInYear(year)));
+  int number = DayNumber({year, 1, 1});
+  for (CivilDate& day : days) {
+    day = FromDayNumber(number++);
+  }
+  return days;
+}
+
 Role RoleOf(DayName::Kind kind) {
   return kind == DayName::Kind::kSolarTerm ? Role::kSolarTerm : Role::kFestival;
 }
@@ -112,12 +121,22 @@ std::vector<NamedDay> NamedDays(const std::vector<CivilDate>& days, Annotator& a
 }
 
 std::vector<NamedDay> NamedDaysOfYear(int year, Annotator& annotator) {
-  std::vector<CivilDate> days(static_cast<std::size_t>(DaysInYear(year)));
-  int number = DayNumber({year, 1, 1});
-  for (CivilDate& day : days) {
-    day = FromDayNumber(number++);
+  return NamedDays(DaysOfYear(year), annotator);
+}
+
+std::vector<NamedDay> DaysNamedByOther(int year, Annotator& annotator) {
+  std::vector<NamedDay> named;
+  for (const CivilDate date : DaysOfYear(year)) {
+    const Annotation own = annotator.Annotate(date);
+    Annotation other = annotator.AnnotateByOther(date);
+    other.solarFestival = eFestivalSolarNone;
+    const bool differs =
+        other.solarTerm != own.solarTerm || other.lunarFestival != own.lunarFestival;
+    if (differs && other.HasName()) {
+      named.push_back({date, other});
+    }
   }
-  return NamedDays(days, annotator);
+  return named;
 }
 
 Line NamesLine(const Annotation& annotation, TextLanguage language) {

@@ -22,6 +22,10 @@ struct NamedDay {
 std::vector<NamedDay> NamedDays(const std::vector<CivilDate>& days, Annotator& annotator);
 std::vector<NamedDay> NamedDaysOfYear(int year, Annotator& annotator);
 
+// Of a year those that have another solar term or lunar festival by the other source than by the
+// annotator's own, with these alone.
+std::vector<NamedDay> DaysNamedByOther(int year, Annotator& annotator);
+
 // The names of a day, set apart by commas.
 Line NamesLine(const Annotation& annotation, TextLanguage language);
 

@@ -226,7 +226,22 @@ class Program {
     if (m_options.json) {
       Write(YearJson(year, today, days, m_options.board.language, !m_utf8));
     } else {
-      Print(YearLines(year, today, days, m_texts));
+      std::vector<Line> lines = YearLines(year, today, days, m_texts);
+      AppendPublished(lines, year);
+      Print(lines);
+    }
+  }
+
+  // Under the engine's list what the published calendar has otherwise.
+  void AppendPublished(std::vector<Line>& lines, int year) {
+    if (m_annotator.Source() == LunarSource::kAlmanac) {
+      return;
+    }
+    const std::vector<NamedDay> days = DaysNamedByOther(year, m_annotator);
+    if (!days.empty()) {
+      lines.emplace_back();
+      lines.push_back({{m_texts.byAlmanac, Role::kTitle}});
+      Append(lines, LegendLines(days, m_texts, m_settings.width));
     }
   }
 

@@ -280,6 +280,12 @@ class OneYear(unittest.TestCase):
         self.assertEqual(output("--list"), output("--list", "--year", "2024"))
         self.assertEqual(output("--list", "2025"), output("--list", "--year", "2025"))
 
+    def test_the_engines_list_ends_with_what_is_published(self):
+        engine = ("--language", "chs", "--lunar", "engine", "--list")
+        self.assertTrue(output(*engine, "2033").endswith(
+            "\n\n历书\n  9月 8日  中秋节    10月 1日  重阳节\n"))
+        self.assertNotIn("历书", output(*engine, "2026"))
+
     def test_json(self):
         year = read_json("--language", "chs", "--list", "--year", "2025")
         self.assertEqual((year["region"], year["language"], year["year"]), ("chs", 1, 2025))

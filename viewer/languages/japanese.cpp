@@ -42,7 +42,7 @@ Texts TextsJapanese() {
   texts.lunarDateLabel = "旧暦";
   texts.newMoon = "朔";
   texts.solarTerm = "二十四節気";
-  texts.festivals = "祝祭日";
+  texts.festivals = "祝日・行事";
   texts.notCertain = "不確か";
   texts.byEngine = "エンジン";
   texts.byAlmanac = "暦書";
