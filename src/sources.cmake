@@ -42,13 +42,15 @@ set(ALMARA_ENGINE_SOURCES
   almanac/instant_record.cpp
   almanac/lunar_date.cpp
   almanac/lunar_month.cpp
+  names/names.cpp
   logic/annotation_lookups.cpp
   logic/calendar_logic.cpp
   api/almanac_exports.cpp
   api/annotation_exports.cpp
   api/bool_setters.cpp
   api/engine.cpp
-  api/exports.cpp)
+  api/exports.cpp
+  api/name_exports.cpp)
 set(ALMARA_PLUGIN_SOURCES
   plugin/almara_plugin.cpp)
 

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "annotations.h"
 
-#include <almara/almara.h>
+#include <almara/almara_names.h>
 
 #include <array>
 #include <cstddef>
 #include <tuple>
 
-#include "names.h"
 #include "text_layout.h"
 
 namespace almara::viewer {
@@ -26,6 +25,10 @@ PatternValues LunarValues(const Texts& texts, const CCalendarLunarDate& lunar) {
           {'d', std::to_string(lunar.day)},
           {'L', NameOrNumber(texts.lunarMonths, lunar.month)},
           {'D', NameOrNumber(texts.lunarDays, lunar.day)}};
+}
+
+std::string TextOr(const char* text, std::int32_t number) {
+  return text != nullptr ? text : std::to_string(number);
 }
 
 }  // namespace
@@ -79,28 +82,17 @@ std::vector<DayName> NamesOf(const Annotation& annotation) {
   return names;
 }
 
-std::string FullName(const DayName& name, TextLanguage language) {
-  switch (name.kind) {
-    case DayName::Kind::kLunarFestival:
-      return LunarFestivalName(name.code, language);
-    case DayName::Kind::kSolarFestival:
-      return SolarFestivalName(name.code, language);
-    case DayName::Kind::kSolarTerm:
-      break;
-  }
-  return SolarTermName(name.code, language);
+std::string FullName(const DayName& name, ELanguage language) {
+  return TextOr(name.kind == DayName::Kind::kSolarTerm ? AlmaraSolarTermName(name.code, language)
+                                                       : AlmaraFestivalName(name.code, language),
+                name.code);
 }
 
-std::string BriefName(const DayName& name, TextLanguage language) {
-  switch (name.kind) {
-    case DayName::Kind::kLunarFestival:
-      return LunarFestivalBrief(name.code, language);
-    case DayName::Kind::kSolarFestival:
-      return SolarFestivalBrief(name.code, language);
-    case DayName::Kind::kSolarTerm:
-      break;
-  }
-  return SolarTermBrief(name.code, language);
+std::string BriefName(const DayName& name, ELanguage language) {
+  return TextOr(name.kind == DayName::Kind::kSolarTerm
+                    ? AlmaraSolarTermBriefName(name.code, language)
+                    : AlmaraFestivalBriefName(name.code, language),
+                name.code);
 }
 
 std::string LunarDayText(const Texts& texts, const CCalendarLunarDate& lunar) {

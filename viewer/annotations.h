@@ -65,7 +65,7 @@ class Annotator {
   std::set<int> m_yearsWithEaster;
 };
 
-// A name that the day has, with the form for a narrow place.
+// A name that the day has.
 struct DayName {
   enum class Kind { kLunarFestival, kSolarFestival, kSolarTerm };
   Kind kind = Kind::kSolarTerm;
@@ -74,8 +74,11 @@ struct DayName {
 
 // The day's names, the weightiest first: festivals before the solar term.
 std::vector<DayName> NamesOf(const Annotation& annotation);
-std::string FullName(const DayName& name, TextLanguage language);
-std::string BriefName(const DayName& name, TextLanguage language);
+
+// By the library's names; the number of a code that it has none for. The brief one has at most nine
+// cells.
+std::string FullName(const DayName& name, ELanguage language);
+std::string BriefName(const DayName& name, ELanguage language);
 
 // The lunar day as it stands under a day: the month's name on its first day.
 std::string LunarDayText(const Texts& texts, const CCalendarLunarDate& lunar);

@@ -3,8 +3,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include "text_language.h"
-
 namespace almara::viewer {
 namespace {
 
@@ -79,8 +77,8 @@ Json SpansJson(const BoardSnapshot& board) {
 
 Json NameJson(const DayName& name, ELanguage region) {
   return {{"code", name.code},
-          {"name", FullName(name, TextLanguage::kEnglish)},
-          {"localName", FullName(name, TextLanguageOf(region))}};
+          {"name", FullName(name, eLanguageEng)},
+          {"localName", FullName(name, region)}};
 }
 
 Json LunarJson(const CCalendarLunarDate& lunar) {

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "names.h"
 #include "text_layout.h"
 
 namespace almara::viewer {
@@ -62,13 +61,13 @@ std::vector<Line> LabelledLines(const std::vector<LabelledLine>& rows) {
   return lines;
 }
 
-Line TermLine(const Annotation& annotation, TextLanguage language) {
+Line TermLine(const Annotation& annotation, ELanguage language) {
   Annotation term;
   term.solarTerm = annotation.solarTerm;
   return NamesLine(term, language);
 }
 
-Line FestivalsLine(const Annotation& annotation, TextLanguage language) {
+Line FestivalsLine(const Annotation& annotation, ELanguage language) {
   Annotation festivals = annotation;
   festivals.solarTerm = eSekkiNone;
   return NamesLine(festivals, language);
@@ -80,9 +79,10 @@ Line DoubtsLine(const DayInstants& instants, const Texts& texts) {
     line.push_back({std::string(texts.newMoon) + " " + DoubtText(*instants.doubtfulMoon)});
   }
   if (instants.doubtfulTerm) {
-    line.push_back({(line.empty() ? "" : ", ") +
-                    SolarTermName(instants.doubtfulTerm->term, texts.language) + " " +
-                    DoubtText(instants.doubtfulTerm->instant)});
+    line.push_back(
+        {(line.empty() ? "" : ", ") +
+         FullName({DayName::Kind::kSolarTerm, instants.doubtfulTerm->term}, texts.language) + " " +
+         DoubtText(instants.doubtfulTerm->instant)});
   }
   return line;
 }
@@ -139,7 +139,7 @@ std::vector<NamedDay> DaysNamedByOther(int year, Annotator& annotator) {
   return named;
 }
 
-Line NamesLine(const Annotation& annotation, TextLanguage language) {
+Line NamesLine(const Annotation& annotation, ELanguage language) {
   Line line;
   for (const DayName& name : NamesOf(annotation)) {
     if (!line.empty()) {

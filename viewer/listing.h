@@ -27,7 +27,7 @@ std::vector<NamedDay> NamedDaysOfYear(int year, Annotator& annotator);
 std::vector<NamedDay> DaysNamedByOther(int year, Annotator& annotator);
 
 // The names of a day, set apart by commas.
-Line NamesLine(const Annotation& annotation, TextLanguage language);
+Line NamesLine(const Annotation& annotation, ELanguage language);
 
 // A line for each day, in as many columns as the width allows.
 std::vector<Line> LegendLines(const std::vector<NamedDay>& days, const Texts& texts, int width);

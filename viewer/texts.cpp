@@ -8,30 +8,6 @@
 namespace almara::viewer {
 namespace {
 
-Texts TextsIn(TextLanguage language) {
-  switch (language) {
-    case TextLanguage::kChineseSimplified:
-      return TextsChineseSimplified();
-    case TextLanguage::kChineseTraditional:
-      return TextsChineseTraditional();
-    case TextLanguage::kKorean:
-      return TextsKorean();
-    case TextLanguage::kJapanese:
-      return TextsJapanese();
-    case TextLanguage::kVietnamese:
-      return TextsVietnamese();
-    case TextLanguage::kGerman:
-      return TextsGerman();
-    case TextLanguage::kRussian:
-      return TextsRussian();
-    case TextLanguage::kThai:
-      return TextsThai();
-    case TextLanguage::kEnglish:
-      break;
-  }
-  return TextsEnglish();
-}
-
 PatternValues MonthsValues(const Texts& texts, CivilDate first, CivilDate last) {
   return {{'y', std::to_string(first.year)},    {'m', std::to_string(first.month)},
           {'M', Month(texts, first.month)},     {'S', ShortMonth(texts, first.month)},
@@ -42,7 +18,29 @@ PatternValues MonthsValues(const Texts& texts, CivilDate first, CivilDate last) 
 }  // namespace
 
 Texts TextsFor(ELanguage region, bool utf8) {
-  return TextsIn(utf8 ? TextLanguageOf(region) : TextLanguage::kEnglish);
+  if (!utf8) {
+    return TextsEnglish();
+  }
+  switch (region) {
+    case eLanguageChs:
+      return TextsChineseSimplified();
+    case eLanguageCht:
+      return TextsChineseTraditional();
+    case eLanguageKor:
+      return TextsKorean();
+    case eLanguageJpn:
+      return TextsJapanese();
+    case eLanguageVit:
+      return TextsVietnamese();
+    case eLanguageDeu:
+      return TextsGerman();
+    case eLanguageRus:
+      return TextsRussian();
+    case eLanguageTha:
+      return TextsThai();
+    default:
+      return TextsEnglish();
+  }
 }
 
 const char* Weekday(const Texts& texts, ECalendarWeek day) {

@@ -10,7 +10,6 @@
 #include <string>
 
 #include "civil_date.h"
-#include "text_language.h"
 
 namespace almara::viewer {
 
@@ -21,7 +20,7 @@ constexpr std::size_t kHelpLines = 15;
 // and {N} are the number and the name of a second month, {T} its short name and {z} its year. Of a
 // lunar date, {L} is the name of the month and {D} that of the day. {c} is a count.
 struct Texts {
-  TextLanguage language = TextLanguage::kEnglish;
+  ELanguage language = eLanguageEng;
 
   std::array<const char*, 7> weekdays{};        // short, from Sunday
   std::array<const char*, 7> narrowWeekdays{};  // at most two cells each

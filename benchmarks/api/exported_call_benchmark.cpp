@@ -4,6 +4,7 @@
 // date that is kept already; boards are those of the default options.
 #include <almara/almanac.h>
 #include <almara/almara.h>
+#include <almara/almara_names.h>
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
@@ -88,6 +89,17 @@ BENCHMARK_CAPTURE(Read, AlmanacNewMoonOfMonth,
 BENCHMARK_CAPTURE(Read, AlmanacTermOfDate, [] { return AlmanacTermOfDate(eAlmanacChina, kDate); });
 BENCHMARK_CAPTURE(Read, AlmanacLunarFestival,
                   [] { return AlmanacLunarFestival(eAlmanacChina, eLanguageChs, kDate); });
+
+BENCHMARK_CAPTURE(Read, AlmaraSolarTermName,
+                  [] { return AlmaraSolarTermName(eSekkiWinterSolstice, eLanguageTha); });
+BENCHMARK_CAPTURE(Read, AlmaraSolarTermBriefName,
+                  [] { return AlmaraSolarTermBriefName(eSekkiWinterSolstice, eLanguageTha); });
+BENCHMARK_CAPTURE(Read, AlmaraFestivalName,
+                  [] { return AlmaraFestivalName(eFestivalLunarHungKings, eLanguageTha); });
+BENCHMARK_CAPTURE(Read, AlmaraFestivalBriefName,
+                  [] { return AlmaraFestivalBriefName(eFestivalLunarHungKings, eLanguageTha); });
+BENCHMARK_CAPTURE(Read, AlmaraRegionName,
+                  [] { return AlmaraRegionName(eLanguageTha, eLanguageTha); });
 
 BENCHMARK_CAPTURE(Read, GetDispMonth, [] { return GetDispMonth(); });
 BENCHMARK_CAPTURE(Call, SetDispMonth, [] { SetDispMonth(eDispMonthRollingWeeks); });

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// Every function of the almanac with any int: bounded answers that agree with each other.
+// Every function of the almanac with any int: bounded answers that agree with each other, and each
+// term and festival has a name in whatever language.
 #include <almara/almanac.h>
+#include <almara/almara_names.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -50,13 +52,22 @@ void CheckInstant(const AlmanacInstant& instant) {
   ALMARA_CHECK(instant.certain == 0 || instant.certain == 1);
 }
 
+void CheckNames(ESolarKyureki24 term, std::int32_t festival, ELanguage language) {
+  const bool isTerm = term >= 0 && term <= 23;
+  ALMARA_CHECK((AlmaraSolarTermName(term, language) != nullptr) == isTerm);
+  ALMARA_CHECK((AlmaraSolarTermBriefName(term, language) != nullptr) == isTerm);
+  const char* name = AlmaraFestivalName(festival, language);
+  ALMARA_CHECK((AlmaraFestivalBriefName(festival, language) != nullptr) == (name != nullptr));
+  ALMARA_CHECK((AlmaraRegionName(term, language) != nullptr) == (term >= 1 && term <= 10));
+}
+
 void CheckDate(EAlmanacCalendar calendar, ELanguage language, const CCalendarSolarDate& date) {
   const CCalendarLunarDate lunar = AlmanacLunarDate(calendar, date);
   const CCalendarSolarDate back = AlmanacSolarDate(calendar, lunar);
   const ESolarKyureki24 term = AlmanacTermOfDate(calendar, date);
   const EFestivalLunar festival = AlmanacLunarFestival(calendar, language, date);
   ALMARA_CHECK(term >= -1 && term <= 23);
-  ALMARA_CHECK(festival == 0 || (festival >= 20000 && festival <= 20012 && festival != 20011));
+  ALMARA_CHECK(festival == 0 || AlmaraFestivalName(festival, language) != nullptr);
   if (lunar.year == 0) {
     ALMARA_CHECK(IsNone(back) && term == eSekkiNone && festival == eFestivalLunarNone);
     return;
@@ -132,6 +143,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::int32_t length = AlmanacDaysOfMonth(calendar, year, month, choice);
     ALMARA_CHECK(length == 0 || length == 29 || length == 30);
     AlmanacCalendarOfLanguage(choice);
+    CheckNames(choice, lunar.reserved, year);
   }
   return 0;
 }

@@ -217,6 +217,11 @@ AlmanacInstant AlmanacNewMoonOfYear(EAlmanacCalendar calendar, int32_t year, int
 AlmanacInstant AlmanacNewMoonOfMonth(EAlmanacCalendar calendar, int32_t year, int32_t month, int32_t leap);
 ESolarKyureki24 AlmanacTermOfDate(EAlmanacCalendar calendar, CCalendarSolarDate date);
 EFestivalLunar AlmanacLunarFestival(EAlmanacCalendar calendar, ELanguage language, CCalendarSolarDate date);
+const char* AlmaraSolarTermName(ESolarKyureki24 term, ELanguage language);
+const char* AlmaraSolarTermBriefName(ESolarKyureki24 term, ELanguage language);
+const char* AlmaraFestivalName(int32_t festival, ELanguage language);
+const char* AlmaraFestivalBriefName(int32_t festival, ELanguage language);
+const char* AlmaraRegionName(ELanguage region, ELanguage language);
 `;
 // --- end
 

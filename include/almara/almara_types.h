@@ -172,7 +172,7 @@ enum {
 
 /* ---- Festivals of the solar calendar --------------------------------------------------------- */
 
-/** Code of a festival of the Gregorian calendar; 0 stands for none. The host supplies the texts. */
+/** Code of a festival of the Gregorian calendar; 0 stands for none. almara_names.h has names. */
 typedef int32_t EFestivalSolar;
 
 /** Values of ::EFestivalSolar. */

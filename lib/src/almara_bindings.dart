@@ -324,6 +324,84 @@ class AlmaraBindings {
   late final _AlmanacTermOfDate = _AlmanacTermOfDatePtr
       .asFunction<int Function(int, CCalendarSolarDate)>(isLeaf: true);
 
+  /// As AlmaraFestivalName(), in at most nine cells, as for AlmaraSolarTermBriefName().
+  ffi.Pointer<ffi.Char> AlmaraFestivalBriefName(int festival, int language) {
+    return _AlmaraFestivalBriefName(festival, language);
+  }
+
+  late final _AlmaraFestivalBriefNamePtr =
+      _lookup<
+        ffi.NativeFunction<ffi.Pointer<ffi.Char> Function(ffi.Int32, ELanguage)>
+      >('AlmaraFestivalBriefName');
+  late final _AlmaraFestivalBriefName = _AlmaraFestivalBriefNamePtr
+      .asFunction<ffi.Pointer<ffi.Char> Function(int, int)>(isLeaf: true);
+
+  /// The name of a festival.
+  ///
+  /// @param festival ::EFestivalSolar or ::EFestivalLunar, whose codes never coincide
+  /// @param language ::ELanguage, whose table
+  /// @return NULL for any int that is none of these codes, 0 (no festival) included
+  ffi.Pointer<ffi.Char> AlmaraFestivalName(int festival, int language) {
+    return _AlmaraFestivalName(festival, language);
+  }
+
+  late final _AlmaraFestivalNamePtr =
+      _lookup<
+        ffi.NativeFunction<ffi.Pointer<ffi.Char> Function(ffi.Int32, ELanguage)>
+      >('AlmaraFestivalName');
+  late final _AlmaraFestivalName = _AlmaraFestivalNamePtr
+      .asFunction<ffi.Pointer<ffi.Char> Function(int, int)>(isLeaf: true);
+
+  /// The name of a region, for a menu: that of its language. With the region itself as language it is
+  /// what its speakers call it.
+  ///
+  /// @param region ::ELanguage, 1 to 10
+  /// @param language ::ELanguage, whose table
+  /// @return NULL for any other region
+  ffi.Pointer<ffi.Char> AlmaraRegionName(int region, int language) {
+    return _AlmaraRegionName(region, language);
+  }
+
+  late final _AlmaraRegionNamePtr =
+      _lookup<
+        ffi.NativeFunction<ffi.Pointer<ffi.Char> Function(ELanguage, ELanguage)>
+      >('AlmaraRegionName');
+  late final _AlmaraRegionName = _AlmaraRegionNamePtr
+      .asFunction<ffi.Pointer<ffi.Char> Function(int, int)>(isLeaf: true);
+
+  /// As AlmaraSolarTermName(), in at most nine cells of a terminal (a Chinese character takes two), to
+  /// stand under a day: the name itself, or a short form where it is longer.
+  ffi.Pointer<ffi.Char> AlmaraSolarTermBriefName(int term, int language) {
+    return _AlmaraSolarTermBriefName(term, language);
+  }
+
+  late final _AlmaraSolarTermBriefNamePtr =
+      _lookup<
+        ffi.NativeFunction<
+          ffi.Pointer<ffi.Char> Function(ESolarKyureki24, ELanguage)
+        >
+      >('AlmaraSolarTermBriefName');
+  late final _AlmaraSolarTermBriefName = _AlmaraSolarTermBriefNamePtr
+      .asFunction<ffi.Pointer<ffi.Char> Function(int, int)>(isLeaf: true);
+
+  /// The name of a solar term.
+  ///
+  /// @param term ::ESolarKyureki24, 0 to 23
+  /// @param language ::ELanguage, whose table
+  /// @return NULL for any other term, -1 included
+  ffi.Pointer<ffi.Char> AlmaraSolarTermName(int term, int language) {
+    return _AlmaraSolarTermName(term, language);
+  }
+
+  late final _AlmaraSolarTermNamePtr =
+      _lookup<
+        ffi.NativeFunction<
+          ffi.Pointer<ffi.Char> Function(ESolarKyureki24, ELanguage)
+        >
+      >('AlmaraSolarTermName');
+  late final _AlmaraSolarTermName = _AlmaraSolarTermNamePtr
+      .asFunction<ffi.Pointer<ffi.Char> Function(int, int)>(isLeaf: true);
+
   /// Builds today's board under the options now in force. If the board's date already is today, a
   /// page direction left by GotoPreviousPage(), GotoNextPage() or GotoSpecifiedDate() stays in force,
   /// so that a page keeps its rows when an option changes.
@@ -1161,7 +1239,7 @@ typedef DartEDispMonth = int;
 typedef EFestivalLunar = ffi.Int32;
 typedef DartEFestivalLunar = int;
 
-/// Code of a festival of the Gregorian calendar; 0 stands for none. The host supplies the texts.
+/// Code of a festival of the Gregorian calendar; 0 stands for none. almara_names.h has names.
 typedef EFestivalSolar = ffi.Int32;
 typedef DartEFestivalSolar = int;
 

@@ -298,7 +298,7 @@ enum SolarTerm {
       : values.firstWhere((each) => each.code == code, orElse: () => unknown);
 }
 
-/// Code of a festival of the Gregorian calendar. The host supplies the texts.
+/// Code of a festival of the Gregorian calendar. almara_names.h has names.
 ///
 /// A newer library may give codes that are not listed here; they read as
 /// [SolarFestival.unknown].

@@ -15,7 +15,8 @@ from dataclasses import dataclass, field
 from pathlib import Path
 
 INCLUDE = Path(__file__).resolve().parents[2] / "include"
-ENGINE_HEADERS = ("almara/almara_types.h", "almara/almara.h", "almara/almanac.h")
+ENGINE_HEADERS = ("almara/almara_types.h", "almara/almara.h", "almara/almanac.h",
+                  "almara/almara_names.h")
 PLUGIN_HEADERS = ("almara/almara_plugin.h",)
 
 

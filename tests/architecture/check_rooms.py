@@ -21,7 +21,9 @@ ARROWS = {
     "festival": {"date"},
     "logic": {"date", "board", "lunar", "festival"},
     "almanac": {"date", "festival"},
-    "api": {"date", "board", "logic", "almanac"},  # board: the options are a base of the engine
+    "names": set(),
+    # board: the options are a base of the engine
+    "api": {"date", "board", "logic", "almanac", "names"},
     "plugin": set(),
 }
 

@@ -5,7 +5,7 @@ namespace almara::viewer {
 
 Texts TextsChineseSimplified() {
   Texts texts;
-  texts.language = TextLanguage::kChineseSimplified;
+  texts.language = eLanguageChs;
   texts.weekdays = {"周日", "周一", "周二", "周三", "周四", "周五", "周六"};
   texts.narrowWeekdays = {"日", "一", "二", "三", "四", "五", "六"};
   texts.longWeekdays = {"星期日", "星期一", "星期二", "星期三", "星期四", "星期五", "星期六"};

@@ -5,7 +5,7 @@ namespace almara::viewer {
 
 Texts TextsChineseTraditional() {
   Texts texts;
-  texts.language = TextLanguage::kChineseTraditional;
+  texts.language = eLanguageCht;
   texts.weekdays = {"週日", "週一", "週二", "週三", "週四", "週五", "週六"};
   texts.narrowWeekdays = {"日", "一", "二", "三", "四", "五", "六"};
   texts.longWeekdays = {"星期日", "星期一", "星期二", "星期三", "星期四", "星期五", "星期六"};

@@ -5,7 +5,7 @@ namespace almara::viewer {
 
 Texts TextsEnglish() {
   Texts texts;
-  texts.language = TextLanguage::kEnglish;
+  texts.language = eLanguageEng;
   texts.weekdays = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
   texts.narrowWeekdays = {"Su", "Mo", "Tu", "We", "Th", "Fr", "Sa"};
   texts.longWeekdays = {"Sunday",   "Monday", "Tuesday", "Wednesday",

@@ -5,7 +5,7 @@ namespace almara::viewer {
 
 Texts TextsGerman() {
   Texts texts;
-  texts.language = TextLanguage::kGerman;
+  texts.language = eLanguageDeu;
   texts.weekdays = {"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa"};
   texts.narrowWeekdays = {"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa"};
   texts.longWeekdays = {"Sonntag",    "Montag",  "Dienstag", "Mittwoch",

@@ -5,7 +5,7 @@ namespace almara::viewer {
 
 Texts TextsJapanese() {
   Texts texts;
-  texts.language = TextLanguage::kJapanese;
+  texts.language = eLanguageJpn;
   texts.weekdays = {"日", "月", "火", "水", "木", "金", "土"};
   texts.narrowWeekdays = {"日", "月", "火", "水", "木", "金", "土"};
   texts.longWeekdays = {"日曜日", "月曜日", "火曜日", "水曜日", "木曜日", "金曜日", "土曜日"};

@@ -5,7 +5,7 @@ namespace almara::viewer {
 
 Texts TextsKorean() {
   Texts texts;
-  texts.language = TextLanguage::kKorean;
+  texts.language = eLanguageKor;
   texts.weekdays = {"일", "월", "화", "수", "목", "금", "토"};
   texts.narrowWeekdays = {"일", "월", "화", "수", "목", "금", "토"};
   texts.longWeekdays = {"일요일", "월요일", "화요일", "수요일", "목요일", "금요일", "토요일"};

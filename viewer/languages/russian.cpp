@@ -5,7 +5,7 @@ namespace almara::viewer {
 
 Texts TextsRussian() {
   Texts texts;
-  texts.language = TextLanguage::kRussian;
+  texts.language = eLanguageRus;
   texts.weekdays = {"Вс", "Пн", "Вт", "Ср", "Чт", "Пт", "Сб"};
   texts.narrowWeekdays = {"Вс", "Пн", "Вт", "Ср", "Чт", "Пт", "Сб"};
   texts.longWeekdays = {"воскресенье", "понедельник", "вторник", "среда",

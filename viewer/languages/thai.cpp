@@ -5,7 +5,7 @@ namespace almara::viewer {
 
 Texts TextsThai() {
   Texts texts;
-  texts.language = TextLanguage::kThai;
+  texts.language = eLanguageTha;
   texts.weekdays = {"อา.", "จ.", "อ.", "พ.", "พฤ.", "ศ.", "ส."};
   texts.narrowWeekdays = {"อา", "จ", "อ", "พ", "พฤ", "ศ", "ส"};
   texts.longWeekdays = {"วันอาทิตย์", "วันจันทร์", "วันอังคาร", "วันพุธ", "วันพฤหัสบดี", "วันศุกร์", "วันเสาร์"};

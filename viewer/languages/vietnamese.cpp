@@ -5,7 +5,7 @@ namespace almara::viewer {
 
 Texts TextsVietnamese() {
   Texts texts;
-  texts.language = TextLanguage::kVietnamese;
+  texts.language = eLanguageVit;
   texts.weekdays = {"CN", "T2", "T3", "T4", "T5", "T6", "T7"};
   texts.narrowWeekdays = {"CN", "T2", "T3", "T4", "T5", "T6", "T7"};
   texts.longWeekdays = {"Chủ Nhật", "Thứ Hai", "Thứ Ba", "Thứ Tư", "Thứ Năm", "Thứ Sáu", "Thứ Bảy"};
