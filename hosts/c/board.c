@@ -3,7 +3,7 @@
  * Shows the month of a date (today, if none is given) with week numbers, and what that date is in
  * the lunisolar calendar: a complete host of the calendar engine in C.
  */
-#include <almara/almara.h>
+#include <almara/almara_names.h>
 #include <stdio.h>
 #include <stdlib.h>
 
@@ -57,13 +57,21 @@ static void PrintWeeks(int columns) {
   }
 }
 
+/* A date without a term or a festival has a code that has no name. */
+static void PrintName(const char* name) {
+  if (name != NULL) {
+    printf(", %s", name);
+  }
+}
+
 static void PrintAnnotations(CCalendarSolarDate date) {
   CCalendarLunarDate lunar = ConverterLunarWithDate(date);
-  printf("%d-%02d-%02d: lunar %d-%d-%d%s, solar term %d, festivals %d %d\n", (int)date.year,
-         (int)date.month, (int)date.day, (int)lunar.year, (int)lunar.month, (int)lunar.day,
-         lunar.leap ? " in a leap month" : "", (int)Check24SekkiWithDate(date),
-         (int)CheckFestivalSolarWithLang(eLanguageChs, date),
-         (int)CheckFestivalLunarWithLang(eLanguageChs, date));
+  printf("%d-%02d-%02d: lunar %d-%d-%d%s", (int)date.year, (int)date.month, (int)date.day,
+         (int)lunar.year, (int)lunar.month, (int)lunar.day, lunar.leap ? " in a leap month" : "");
+  PrintName(AlmaraSolarTermName(Check24SekkiWithDate(date), eLanguageEng));
+  PrintName(AlmaraFestivalName(CheckFestivalSolarWithLang(eLanguageChs, date), eLanguageEng));
+  PrintName(AlmaraFestivalName(CheckFestivalLunarWithLang(eLanguageChs, date), eLanguageEng));
+  putchar('\n');
 }
 
 static void PrintOptions(void) {

@@ -2,7 +2,7 @@
 //
 // Shows the month of a date (today, if none is given) with week numbers, and what that date is in
 // the lunisolar calendar: a complete host of the calendar engine in C++.
-#include <almara/almara.h>
+#include <almara/almara_names.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -79,10 +79,16 @@ void PrintAnnotations(std::ostream& out, const CCalendarSolarDate& date) {
   const CCalendarLunarDate lunar = ConverterLunarWithDate(date);
   out << date.year << std::setfill('0') << std::right << '-' << std::setw(2) << date.month << '-'
       << std::setw(2) << date.day << ": lunar " << lunar.year << '-' << lunar.month << '-'
-      << lunar.day << (lunar.leap != 0 ? " in a leap month" : "") << ", solar term "
-      << Check24SekkiWithDate(date) << ", festivals "
-      << CheckFestivalSolarWithLang(eLanguageChs, date) << ' '
-      << CheckFestivalLunarWithLang(eLanguageChs, date) << '\n';
+      << lunar.day << (lunar.leap != 0 ? " in a leap month" : "");
+  for (const char* name :
+       {AlmaraSolarTermName(Check24SekkiWithDate(date), eLanguageEng),
+        AlmaraFestivalName(CheckFestivalSolarWithLang(eLanguageChs, date), eLanguageEng),
+        AlmaraFestivalName(CheckFestivalLunarWithLang(eLanguageChs, date), eLanguageEng)}) {
+    if (name != nullptr) {  // a date without a term or a festival has a code that has no name
+      out << ", " << name;
+    }
+  }
+  out << '\n';
 }
 
 void PrintOptions(std::ostream& out) {

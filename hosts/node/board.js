@@ -50,11 +50,16 @@ function annotationLine(engine) {
   const date = engine.GetContentDate();
   const lunar = engine.ConverterLunarWithDate(date);
   const [month, day] = [date.month, date.day].map((number) => String(number).padStart(2, '0'));
+  const [region, english] = [almara.eLanguageChs, almara.eLanguageEng];
+  const names = [
+    engine.AlmaraSolarTermName(engine.Check24SekkiWithDate(date), english),
+    engine.AlmaraFestivalName(engine.CheckFestivalSolarWithLang(region, date), english),
+    engine.AlmaraFestivalName(engine.CheckFestivalLunarWithLang(region, date), english),
+  ];
+  // A date without a term or a festival has a code that has no name: null.
   return `${date.year}-${month}-${day}: ` +
-    `lunar ${lunar.year}-${lunar.month}-${lunar.day}${lunar.leap ? ' in a leap month' : ''}, ` +
-    `solar term ${engine.Check24SekkiWithDate(date)}, ` +
-    `festivals ${engine.CheckFestivalSolarWithLang(almara.eLanguageChs, date)} ` +
-    `${engine.CheckFestivalLunarWithLang(almara.eLanguageChs, date)}`;
+    `lunar ${lunar.year}-${lunar.month}-${lunar.day}${lunar.leap ? ' in a leap month' : ''}` +
+    names.filter((name) => name).map((name) => `, ${name}`).join('');
 }
 
 function main(text) {

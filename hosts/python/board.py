@@ -40,11 +40,15 @@ def print_annotations(engine):
     date = engine.GetContentDate()
     lunar = engine.ConverterLunarWithDate(date)
     leap = " in a leap month" if lunar.leap else ""
+    region, english = almara.eLanguageChs, almara.eLanguageEng
+    names = [
+        engine.AlmaraSolarTermName(engine.Check24SekkiWithDate(date), english),
+        engine.AlmaraFestivalName(engine.CheckFestivalSolarWithLang(region, date), english),
+        engine.AlmaraFestivalName(engine.CheckFestivalLunarWithLang(region, date), english)]
+    # A date without a term or a festival has a code that has no name: None.
     print(f"{date.year}-{date.month:02}-{date.day:02}: "
-          f"lunar {lunar.year}-{lunar.month}-{lunar.day}{leap}, "
-          f"solar term {engine.Check24SekkiWithDate(date)}, "
-          f"festivals {engine.CheckFestivalSolarWithLang(almara.eLanguageChs, date)} "
-          f"{engine.CheckFestivalLunarWithLang(almara.eLanguageChs, date)}")
+          f"lunar {lunar.year}-{lunar.month}-{lunar.day}{leap}"
+          + "".join(f", {name}" for name in names if name))
 
 
 def main(arguments):

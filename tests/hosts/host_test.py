@@ -20,15 +20,15 @@ A_SATURDAY = {"LD_PRELOAD": os.environ["ALMARA_LIBFAKETIME"], "FAKETIME": "2026-
 # solar term, a festival of the solar calendar, a short title over a long month, a month of four
 # weeks, and both ends of the years that have a board.
 ANNOTATIONS = {
-    "2024-02-09": "lunar 2023-12-30, solar term -1, festivals 0 20009",
-    "2024-02-10": "lunar 2024-1-1, solar term -1, festivals 0 20000",
-    "2023-03-22": "lunar 2023-2-1 in a leap month, solar term -1, festivals 0 0",
-    "2024-06-21": "lunar 2024-5-16, solar term 11, festivals 0 0",
-    "2024-10-01": "lunar 2024-8-29, solar term -1, festivals 2004 0",
-    "1900-01-01": "lunar 1899-12-1, solar term -1, festivals 1000 0",
-    "1985-05-19": "lunar 1985-3-30, solar term -1, festivals 0 0",
-    "2027-02-01": "lunar 2026-12-25, solar term -1, festivals 0 0",
-    "2099-12-31": "lunar 2099-11-20, solar term -1, festivals 1012 0",
+    "2024-02-09": "lunar 2023-12-30, Lunar New Year's Eve",
+    "2024-02-10": "lunar 2024-1-1, Lunar New Year's Day",
+    "2023-03-22": "lunar 2023-2-1 in a leap month",
+    "2024-06-21": "lunar 2024-5-16, Summer Solstice",
+    "2024-10-01": "lunar 2024-8-29, National Day",
+    "1900-01-01": "lunar 1899-12-1, New Year's Day",
+    "1985-05-19": "lunar 1985-3-30",
+    "2027-02-01": "lunar 2026-12-25",
+    "2099-12-31": "lunar 2099-11-20, New Year's Eve",
 }
 
 
@@ -51,13 +51,12 @@ def board_of_viewer(*options, **environment):
 
 def annotations_of_viewer(date):
     day = json.loads(output_of(VIEWER, "--day", date, "--language", "chs", "--json"))
-    lunar, term = day["lunar"], day["solarTerm"]
-    festivals = {"solar": 0, "lunar": 0,
-                 **{festival["kind"]: festival["code"] for festival in day["festivals"]}}
+    lunar = day["lunar"]
+    named = [*([day["solarTerm"]] if day["solarTerm"] else []),
+             *sorted(day["festivals"], key=lambda festival: festival["code"])]
     leap = " in a leap month" if lunar["leap"] else ""
-    return (f"lunar {lunar['year']}-{lunar['month']}-{lunar['day']}{leap}, "
-            f"solar term {term['code'] if term else -1}, "
-            f"festivals {festivals['solar']} {festivals['lunar']}")
+    return (f"lunar {lunar['year']}-{lunar['month']}-{lunar['day']}{leap}"
+            + "".join(f", {each['name']}" for each in named))
 
 
 class HostTest(unittest.TestCase):
