@@ -16,7 +16,7 @@
 ///
 /// The library of a process holds one engine. Drive it from one isolate, the
 /// one that draws: every call is short, and nothing but the building of boards
-/// is locked. `Almanac` may be used from any isolate.
+/// is locked. `Almanac` and `CalendarNames` may be used from any isolate.
 ///
 /// Comments of the enumerations come from the C headers in `include/almara/`
 /// and name C functions.
@@ -27,3 +27,4 @@ export 'src/board.dart' show Board, BoardCell, CellKindGroups, WeekSpan;
 export 'src/codes.dart';
 export 'src/dates.dart';
 export 'src/engine.dart';
+export 'src/names.dart';

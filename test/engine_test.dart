@@ -254,6 +254,50 @@ void main() {
     });
   }, skip: skip);
 
+  group('names', () {
+    late CalendarNames names;
+    setUp(() => names = CalendarNames.open(path!));
+
+    test('come in the language of a region', () {
+      const term = SolarTerm.winterSolstice;
+      expect(names.solarTerm(term, Region.chs), '冬至');
+      expect(names.solarTerm(term, Region.deu), 'Wintersonnenwende');
+      expect(names.solarTermBrief(term, Region.deu), 'Sonnenw.');
+      const christmas = SolarFestival.christmasDay;
+      expect(names.solarFestival(christmas, Region.usa), 'Christmas Day');
+      expect(names.solarFestivalBrief(christmas, Region.usa), 'Christmas');
+      const autumn = LunarFestival.midAutumn;
+      expect(names.lunarFestival(autumn, Region.kor), '추석');
+      expect(names.lunarFestivalBrief(autumn, Region.vit), 'Trung thu');
+      expect(names.region(Region.deu, Region.deu), 'Deutsch');
+    });
+
+    test('are there for every value', () {
+      for (final region in Region.values) {
+        for (final value in SolarTerm.values) {
+          expect(
+            names.solarTerm(value, region) == null,
+            value == SolarTerm.unknown,
+          );
+        }
+        for (final value in SolarFestival.values) {
+          expect(
+            names.solarFestival(value, region) == null,
+            value == SolarFestival.unknown,
+          );
+        }
+        for (final value in LunarFestival.values) {
+          expect(
+            names.lunarFestival(value, region) == null,
+            value == LunarFestival.unknown,
+          );
+        }
+      }
+      expect(names.solarTerm(null, Region.chs), isNull);
+      expect(names.region(Region.unknown, Region.chs), isNull);
+    });
+  }, skip: skip);
+
   test('a board lists the days shown', () {
     const kept = CalendarDate(2024, 1, 31);
     const first = CalendarDate(2024, 2, 1);

@@ -243,13 +243,6 @@ def page_direction(folder):
     picture.save(folder / "page-direction.svg")
 
 
-def words(prefix, code):
-    """The constant of a code as the example application writes it: "Start of spring"."""
-    name = next(name for name, value in vars(almara).items() if name.startswith(prefix) and value == code)
-    text = re.sub(r"([A-Z])", lambda match: " " + match[1].lower(), name[len(prefix):]).strip()
-    return text[0].upper() + text[1:]
-
-
 def note_of(engine, cell):
     """What the example writes under a day: its festival, or its term, or its lunar day."""
     date = engine.CreateSolarDate(cell.year, cell.month, cell.day, 0)
@@ -257,13 +250,9 @@ def note_of(engine, cell):
     term = engine.Check24SekkiWithDate(date)
     solar_festival = engine.CheckFestivalSolarWithLang(CHS, date)
     lunar_festival = engine.CheckFestivalLunarWithLang(CHS, date)
-    if lunar_festival:
-        return words("eFestivalLunar", lunar_festival)
-    if solar_festival:
-        return words("eFestivalSolar", solar_festival)
-    if term != NO_TERM:
-        return words("eSekki", term)
-    return f"Moon {lunar.month}" if lunar.day == 1 else str(lunar.day)
+    return (engine.AlmaraFestivalName(lunar_festival, CHS) or
+            engine.AlmaraFestivalName(solar_festival, CHS) or engine.AlmaraSolarTermName(term, CHS) or
+            (f"Moon {lunar.month}" if lunar.day == 1 else str(lunar.day)))
 
 
 def application(engine, folder):
@@ -275,7 +264,7 @@ def application(engine, folder):
     engine.GotoSpecifiedDate(2024, 2, 14)
     picture = Picture(900, 440, "February 2024 as the example application lays it out")
     picture.text(24, 38, "February 2024", size=20)
-    picture.text(876, 36, "<    Today    >      Chinese (simplified)", FOCUS, "end", size=13)
+    picture.text(876, 36, f"<    Today    >      {engine.AlmaraRegionName(CHS, CHS)}", FOCUS, "end", size=13)
     width, height, left, top = 118, 70, 56, 80
     for column in range(engine.GetContentColumns()):
         picture.text(left + width * (column + 0.5), top - 10, DAYS[engine.GetCalendarWeekByColumns(column)],

@@ -5,35 +5,42 @@ import 'package:flutter/material.dart';
 import 'package:flutter/services.dart';
 
 void main() {
-  runApp(CalendarApp(engine: AlmaraEngine.open()));
+  runApp(
+    CalendarApp(engine: AlmaraEngine.open(), names: CalendarNames.open()),
+  );
 }
 
-const regionNames = {
-  Region.chs: 'Chinese (simplified)',
-  Region.cht: 'Chinese (traditional)',
-  Region.kor: 'Korean',
-  Region.jpn: 'Japanese',
-  Region.vit: 'Vietnamese',
-  Region.usa: 'English (United States)',
-  Region.eng: 'English',
-  Region.deu: 'German',
-  Region.rus: 'Russian',
-  Region.tha: 'Thai',
-};
+/// What is known about a day, in the language of a region.
+class DayTexts {
+  DayTexts(DayNotes notes, CalendarNames names, Region language)
+    : lunarDate = notes.lunarDate,
+      solarTerm = names.solarTerm(notes.solarTerm, language),
+      solarFestival = names.solarFestival(notes.solarFestival, language),
+      lunarFestival = names.lunarFestival(notes.lunarFestival, language);
 
-/// `startOfSpring` as `Start of spring`.
-String wordsOf(Enum value) {
-  final words = value.name.replaceAllMapped(
-    RegExp('[A-Z]'),
-    (letter) => ' ${letter[0]!.toLowerCase()}',
-  );
-  return words[0].toUpperCase() + words.substring(1);
+  final LunarDate? lunarDate;
+  final String? solarTerm;
+  final String? solarFestival;
+  final String? lunarFestival;
+
+  /// The festival or solar term of a day, else its day of the lunar month.
+  String get brief =>
+      lunarFestival ?? solarFestival ?? solarTerm ?? _briefLunarDate;
+
+  String get _briefLunarDate {
+    final lunar = lunarDate;
+    if (lunar == null) {
+      return '';
+    }
+    return lunar.day == 1 ? 'Moon ${lunar.month}' : '${lunar.day}';
+  }
 }
 
 class CalendarApp extends StatelessWidget {
-  const CalendarApp({super.key, required this.engine});
+  const CalendarApp({super.key, required this.engine, required this.names});
 
   final AlmaraEngine engine;
+  final CalendarNames names;
 
   @override
   Widget build(BuildContext context) {
@@ -41,7 +48,7 @@ class CalendarApp extends StatelessWidget {
       title: 'almara',
       theme: _themeOf(Brightness.light),
       darkTheme: _themeOf(Brightness.dark),
-      home: MonthPage(engine: engine),
+      home: MonthPage(engine: engine, names: names),
     );
   }
 
@@ -56,9 +63,10 @@ class CalendarApp extends StatelessWidget {
 /// A month that turns with the wheel, with PageUp and PageDown, and goes back
 /// to today with Home.
 class MonthPage extends StatefulWidget {
-  const MonthPage({super.key, required this.engine});
+  const MonthPage({super.key, required this.engine, required this.names});
 
   final AlmaraEngine engine;
+  final CalendarNames names;
 
   @override
   State<MonthPage> createState() => _MonthPageState();
@@ -67,7 +75,7 @@ class MonthPage extends StatefulWidget {
 class _MonthPageState extends State<MonthPage> {
   Region _region = Region.chs;
   late Board _board;
-  Map<CalendarDate, DayNotes> _notes = const {};
+  Map<CalendarDate, DayTexts> _texts = const {};
   CalendarDate? _selected;
 
   @override
@@ -83,11 +91,14 @@ class _MonthPageState extends State<MonthPage> {
     _selected = widget.engine.today;
   }
 
-  /// Keeps a board and the notes of its days, asked in their order.
+  /// Keeps a board and the texts of its days, asked in their order.
   void _take(Board board) {
     _board = board;
-    _notes = {for (final day in board.days) day: widget.engine.annotate(day)};
+    _texts = {for (final day in board.days) day: _textsOf(day)};
   }
+
+  DayTexts _textsOf(CalendarDate date) =>
+      DayTexts(widget.engine.annotate(date), widget.names, _region);
 
   void _show(Board board) => setState(() => _take(board));
 
@@ -161,12 +172,12 @@ class _MonthPageState extends State<MonthPage> {
       onPressed: _next,
       icon: const Icon(Icons.chevron_right),
     ),
-    RegionMenu(region: _region, onSelected: _start),
+    RegionMenu(names: widget.names, region: _region, onSelected: _start),
   ];
 
   Widget _boardView() => BoardView(
     board: _board,
-    notes: _notes,
+    texts: _texts,
     selected: _selected,
     onSelected: (date) => setState(() => _selected = date),
   );
@@ -175,13 +186,19 @@ class _MonthPageState extends State<MonthPage> {
     final date = _selected;
     return date == null
         ? const SizedBox()
-        : DayDetails(date: date, notes: widget.engine.annotate(date));
+        : DayDetails(date: date, texts: _textsOf(date));
   }
 }
 
 class RegionMenu extends StatelessWidget {
-  const RegionMenu({super.key, required this.region, required this.onSelected});
+  const RegionMenu({
+    super.key,
+    required this.names,
+    required this.region,
+    required this.onSelected,
+  });
 
+  final CalendarNames names;
   final Region region;
   final ValueChanged<Region> onSelected;
 
@@ -189,11 +206,12 @@ class RegionMenu extends StatelessWidget {
   Widget build(BuildContext context) {
     return MenuAnchor(
       menuChildren: [
-        for (final MapEntry(key: choice, value: name) in regionNames.entries)
-          MenuItemButton(
-            onPressed: () => onSelected(choice),
-            child: Text(name),
-          ),
+        for (final choice in Region.values)
+          if (choice != Region.unknown)
+            MenuItemButton(
+              onPressed: () => onSelected(choice),
+              child: Text(_nameOf(choice)),
+            ),
       ],
       builder: (context, controller, child) => TextButton.icon(
         onPressed: () {
@@ -204,10 +222,13 @@ class RegionMenu extends StatelessWidget {
           }
         },
         icon: const Icon(Icons.public),
-        label: Text(regionNames[region] ?? ''),
+        label: Text(_nameOf(region)),
       ),
     );
   }
+
+  /// What its speakers call it.
+  String _nameOf(Region region) => names.region(region, region) ?? '';
 }
 
 /// Headings, the column of week numbers, and the cells.
@@ -215,7 +236,7 @@ class BoardView extends StatelessWidget {
   const BoardView({
     super.key,
     required this.board,
-    required this.notes,
+    required this.texts,
     required this.selected,
     required this.onSelected,
   });
@@ -223,7 +244,7 @@ class BoardView extends StatelessWidget {
   static const double weekWidth = 48;
 
   final Board board;
-  final Map<CalendarDate, DayNotes> notes;
+  final Map<CalendarDate, DayTexts> texts;
   final CalendarDate? selected;
   final ValueChanged<CalendarDate> onSelected;
 
@@ -237,7 +258,7 @@ class BoardView extends StatelessWidget {
             for (final day in board.headings)
               Expanded(
                 child: Text(
-                  wordsOf(day),
+                  _headingOf(day),
                   textAlign: TextAlign.center,
                   overflow: TextOverflow.ellipsis,
                 ),
@@ -287,26 +308,15 @@ class BoardView extends StatelessWidget {
     return DayCell(
       date: date,
       kind: cell.kind,
-      note: _noteOf(notes[date]),
+      note: texts[date]?.brief ?? '',
       inMonth: date.month == board.date?.month,
       selected: date == selected,
       onTap: () => onSelected(date),
     );
   }
 
-  /// The festival or solar term of a day, else its day of the lunar month.
-  String _noteOf(DayNotes? notes) {
-    final Enum? name =
-        notes?.lunarFestival ?? notes?.solarFestival ?? notes?.solarTerm;
-    if (name != null) {
-      return wordsOf(name);
-    }
-    final lunar = notes?.lunarDate;
-    if (lunar == null) {
-      return '';
-    }
-    return lunar.day == 1 ? 'Moon ${lunar.month}' : '${lunar.day}';
-  }
+  String _headingOf(Weekday day) =>
+      day.name[0].toUpperCase() + day.name.substring(1);
 }
 
 class DayCell extends StatelessWidget {
@@ -373,10 +383,10 @@ class DayCell extends StatelessWidget {
 
 /// Everything about one day.
 class DayDetails extends StatelessWidget {
-  const DayDetails({super.key, required this.date, required this.notes});
+  const DayDetails({super.key, required this.date, required this.texts});
 
   final CalendarDate date;
-  final DayNotes notes;
+  final DayTexts texts;
 
   @override
   Widget build(BuildContext context) {
@@ -385,15 +395,13 @@ class DayDetails extends StatelessWidget {
       padding: const EdgeInsets.all(16),
       children: [
         Text(full, style: Theme.of(context).textTheme.titleMedium),
-        _line('Lunar date', notes.lunarDate?.toString()),
-        _line('Solar term', _words(notes.solarTerm)),
-        _line('Festival', _words(notes.solarFestival)),
-        _line('Lunar festival', _words(notes.lunarFestival)),
+        _line('Lunar date', texts.lunarDate?.toString()),
+        _line('Solar term', texts.solarTerm),
+        _line('Festival', texts.solarFestival),
+        _line('Lunar festival', texts.lunarFestival),
       ],
     );
   }
-
-  String? _words(Enum? value) => value == null ? null : wordsOf(value);
 
   Widget _line(String title, String? text) => text == null
       ? const SizedBox()

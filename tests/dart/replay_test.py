@@ -15,16 +15,15 @@ ROOT = Path(__file__).resolve().parents[2]
 MAIN = (ROOT / "example/lib/main.dart").read_text()
 ENGINE = (ROOT / "lib/src/engine.dart").read_text()
 BOARD = (ROOT / "lib/src/board.dart").read_text()
-CODES = (ROOT / "lib/src/codes.dart").read_text()
 CONSTANTS = dict(re.findall(r"const int (\w+) = (-?\d+);",
                             (ROOT / "lib/src/almara_bindings.dart").read_text()))
 
 # Week number, then each day with its note; [today], a break day with its dot.
 DRAWN = """\
-5 | 29 19 | 30 20 | 31 21 | 1 22 | 2 Little new year | 3. 24 | 4. Start of spring
-6 | 5 26 | 6 27 | 7 28 | 8 29 | 9 New years eve | [10]. New years day | 11. 2
-7 | 12 3 | 13 4 | 14 Valentines day | 15 6 | 16 7 | 17. 8 | 18. 9
-8 | 19 Rain water | 20 11 | 21 12 | 22 13 | 23 14 | 24. Lantern festival | 25. 16
+5 | 29 19 | 30 20 | 31 21 | 1 22 | 2 小年 | 3. 24 | 4. 立春
+6 | 5 26 | 6 27 | 7 28 | 8 29 | 9 除夕 | [10]. 春节 | 11. 2
+7 | 12 3 | 13 4 | 14 情人节 | 15 6 | 16 7 | 17. 8 | 18. 9
+8 | 19 雨水 | 20 11 | 21 12 | 22 13 | 23 14 | 24. 元宵节 | 25. 16
 9 | 26 17 | 27 18 | 28 19 | 29 20 | 1 21 | 2. 22 | 3. 23"""
 
 
@@ -38,16 +37,6 @@ def body_of(member, text):
 
 def calls_in(text):
     return re.findall(r"(?:_c|engine)\.([A-Z]\w+)\(", text)
-
-
-def names_of(enumeration):
-    """code -> what the example makes of the enumeration's name for it."""
-    body = re.search(rf"^enum {enumeration} \{{(.*?)^\}}", CODES, re.MULTILINE | re.DOTALL)[1]
-    words = {}
-    for name, constant in re.findall(r"^  (\w+)\((e\w+)\),", body, re.MULTILINE):
-        text = re.sub(r"[A-Z]", lambda letter: " " + letter[0].lower(), name)
-        words[int(CONSTANTS[constant])] = text[0].upper() + text[1:]
-    return words
 
 
 class Recorder:
@@ -86,8 +75,9 @@ def note(engine, language, cell):
     term = engine.Check24SekkiWithDate(date)
     solar = engine.CheckFestivalSolarWithLang(language, date)
     festival = engine.CheckFestivalLunarWithLang(language, date)
-    return (names_of("LunarFestival").get(festival) or names_of("SolarFestival").get(solar)
-            or names_of("SolarTerm").get(term)
+    names = engine.library
+    return (names.AlmaraFestivalName(festival, language) or names.AlmaraFestivalName(solar, language)
+            or names.AlmaraSolarTermName(term, language)
             or (f"Moon {lunar.month}" if lunar.day == 1 else str(lunar.day)))
 
 
