@@ -79,6 +79,23 @@ class Documents(Snippets):
         for path, target in links:
             self.assertTrue((path.parent / target).exists(), f"{target} in {path.name}")
 
+    def test_the_chinese_readme_repeats_the_english_one(self):
+        """Its code without the comments, its numbers and its dates are all in README.md."""
+        english, chinese = (DOCUMENTS[ROOT / name] for name in ("README.md", "README.zh.md"))
+
+        def code(text):
+            blocks = re.findall(r"^```\w+\n(.*?)^```$", text, re.DOTALL | re.MULTILINE)
+            lines = "".join(blocks).splitlines()
+            return {re.sub(r"\s+(#|//) .*", "", line) for line in lines}
+
+        def figures(text):
+            return set(re.findall(r"\d+(?:-\d+)*", text))
+
+        self.assertGreater(len(code(chinese)), 10)
+        self.assertEqual(code(chinese) - code(english), set())
+        self.assertGreater(len(figures(chinese)), 20)
+        self.assertEqual(figures(chinese) - figures(english), set())
+
     def test_scripts_that_are_named_are_there(self):
         for path, text in DOCUMENTS.items():
             for script in re.findall(r"\bscripts/[\w-]+", text):
