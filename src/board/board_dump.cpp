@@ -18,28 +18,40 @@ constexpr std::size_t kMaxRowLength =
     kWeekNumberLabel.size() + kMaxDecimalLength +
     std::size_t{kDaysOfWeek} * (1 + CCalendarItem::kMaxDayLength) + 1;
 
-// Formatted by hand, a line at a time: printf, cell by cell, took longer than the rest of the
-// build.
-void WriteRow(const tagCalendarRow& row) {
-  char line[kMaxRowLength];
-  char* out = std::copy(kWeekNumberLabel.begin(), kWeekNumberLabel.end(), line);
-  out = AppendDecimal(out, row.weekNumber, 1);
+// A board of some forty rows.
+constexpr std::size_t kTextSize = 4096;
+
+char* Append(std::string_view text, char* out) { return std::copy(text.begin(), text.end(), out); }
+
+// Formatted by hand: printf, cell by cell, took longer than the rest of the build.
+char* AppendRow(const tagCalendarRow& row, char* out) {
+  out = AppendDecimal(Append(kWeekNumberLabel, out), row.weekNumber, 1);
   for (const CCalendarItem& item : row.items) {
     *out++ = '\t';
     out = item.AppendDay(out);
   }
   *out++ = '\n';
-  WriteToStandardOutput({line, static_cast<std::size_t>(out - line)});
+  return out;
+}
+
+void Write(const char* text, const char* end) {
+  WriteToStandardOutput({text, static_cast<std::size_t>(end - text)});
 }
 
 }  // namespace
 
 void WriteBoard(const std::vector<tagCalendarRow>& rows) {
-  WriteToStandardOutput(kBlankLines);
+  char text[kTextSize];
+  const char* const lastStart = text + kTextSize - kMaxRowLength - kBlankLines.size();
+  char* out = Append(kBlankLines, text);
   for (const tagCalendarRow& row : rows) {
-    WriteRow(row);
+    if (out > lastStart) {
+      Write(text, out);
+      out = text;
+    }
+    out = AppendRow(row, out);
   }
-  WriteToStandardOutput(kBlankLines);
+  Write(text, Append(kBlankLines, out));
 }
 
 }  // namespace almara

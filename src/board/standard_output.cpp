@@ -1,8 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "board/standard_output.h"
 
+#include <poll.h>
 #include <stdio_ext.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <chrono>
+#include <climits>
 #include <csignal>
 #include <cstdio>
 #include <ctime>
@@ -10,6 +18,11 @@
 namespace almara {
 
 namespace {
+
+constexpr std::chrono::milliseconds kPatience{250};
+
+// Whether the last text waited for its reader in vain.
+std::atomic<bool> g_readerIsLate{false};
 
 // Keeps SIGPIPE from this thread for the life of the object.
 class BrokenPipeGuard {
@@ -37,19 +50,53 @@ class BrokenPipeGuard {
   sigset_t m_savedMask{};
 };
 
-// Whether stdio keeps a text of that size back, so that nothing is written yet.
-bool FitsBuffer(std::size_t size) {
-  return __flbf(stdout) == 0 && __fpending(stdout) + size < __fbufsize(stdout);
+// Whether a text is handed to a reader, which may be gone or slow.
+bool HasReader(int descriptor) {
+  struct stat status {};
+  return fstat(descriptor, &status) == 0 && (S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode));
+}
+
+// Waits until the reader has made room for PIPE_BUF characters; false if it has gone or is late.
+bool WaitForRoom(int descriptor) {
+  using Clock = std::chrono::steady_clock;
+  using std::chrono::milliseconds;
+  const Clock::time_point deadline = Clock::now() + (g_readerIsLate ? milliseconds{0} : kPatience);
+  pollfd end{descriptor, POLLOUT, 0};
+  int count = 0;
+  milliseconds left{0};
+  do {
+    left = std::chrono::duration_cast<milliseconds>(deadline - Clock::now());
+    count = poll(&end, 1, std::max(0, static_cast<int>(left.count())));
+  } while (count < 0 && errno == EINTR && left > milliseconds{0});
+  g_readerIsLate = count <= 0;
+  return end.revents == POLLOUT;
+}
+
+// Writes to a pipe or socket that has room. PIPE_BUF characters at a time never wait there, whether
+// or not the host has made it non-blocking.
+void WriteToReader(int descriptor, std::string_view text) {
+  const BrokenPipeGuard guard;
+  if (__fpending(stdout) != 0 && WaitForRoom(descriptor)) {
+    std::fflush(stdout);
+  }
+  while (!text.empty() && WaitForRoom(descriptor)) {
+    const ssize_t written = write(descriptor, text.data(), text.substr(0, PIPE_BUF).size());
+    if (written < 0) {
+      return;
+    }
+    text.remove_prefix(static_cast<std::size_t>(written));
+  }
 }
 
 }  // namespace
 
-std::size_t WriteToStandardOutput(std::string_view text) {
-  if (FitsBuffer(text.size())) {
-    return std::fwrite(text.data(), 1, text.size(), stdout);
+void WriteToStandardOutput(std::string_view text) {
+  const int descriptor = fileno(stdout);
+  if (HasReader(descriptor)) {
+    WriteToReader(descriptor, text);
+  } else {
+    std::fwrite(text.data(), 1, text.size(), stdout);
   }
-  const BrokenPipeGuard guard;
-  return std::fwrite(text.data(), 1, text.size(), stdout);
 }
 
 }  // namespace almara

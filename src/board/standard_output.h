@@ -2,15 +2,20 @@
 #ifndef ALMARA_BOARD_STANDARD_OUTPUT_H_
 #define ALMARA_BOARD_STANDARD_OUTPUT_H_
 
-#include <cstddef>
 #include <string_view>
 
 namespace almara {
 
-// Writes a diagnostic text to the standard output, through stdio and so in order with whatever the
-// host prints there. Never harms the host: where the output is closed or full the text is lost, and
-// a pipe whose reader has gone raises no SIGPIPE. Returns the number of characters taken.
-std::size_t WriteToStandardOutput(std::string_view text);
+// Writes a diagnostic text to the standard output, after whatever the host has printed there, and
+// never harms the host. What cannot be written is lost.
+//
+// A file or a terminal gets the text through stdio, with the host's own. A pipe or a socket gets it
+// at once, so that nothing of it is left for the host to write when it prints or exits: a reader
+// that has gone would then end the host by SIGPIPE. A reader that does not read holds up one text
+// for a quarter of a second, and those after it not at all until it reads again. Text of the host
+// that is still in stdio's buffer goes first where there is a reader, and stays where it is
+// otherwise; only more than PIPE_BUF of it may wait for the reader without a limit.
+void WriteToStandardOutput(std::string_view text);
 
 }  // namespace almara
 

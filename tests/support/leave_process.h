@@ -4,8 +4,6 @@
 
 #include <unistd.h>
 
-#include <csignal>
-
 #ifdef ALMARA_COVERAGE
 extern "C" void __gcov_dump();
 #endif
@@ -17,9 +15,6 @@ namespace almara::test {
 [[noreturn]] inline void LeaveProcess(int status) {
 #ifdef ALMARA_COVERAGE
   __gcov_dump();
-#endif
-#ifdef __SANITIZE_THREAD__
-  std::signal(SIGPIPE, SIG_IGN);  // its run-time library flushes the standard output on the way out
 #endif
   _exit(status);
 }
