@@ -6,6 +6,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <new>
 #include <string>
 
 #include "api/engine.h"
@@ -115,7 +116,7 @@ bool IsBreakDayOfWeek(std::int32_t dayOfWeek) {
   return Ask(&CCalendarLogic::IsBreakDayOfWeek, false, dayOfWeek);
 }
 
-char* GetConfigKey() {
+char* GetConfigKey() try {
   if (g_pCalendarLogic == nullptr) {
     return nullptr;
   }
@@ -126,6 +127,8 @@ char* GetConfigKey() {
     std::memcpy(copy, key.c_str(), key.size() + 1);
   }
   return copy;
+} catch (const std::bad_alloc&) {
+  return nullptr;
 }
 
 // NOLINTNEXTLINE(cppcoreguidelines-no-malloc): what GetConfigKey() allocated.

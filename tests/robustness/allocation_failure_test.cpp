@@ -234,6 +234,9 @@ TEST(FailingConfigKey, IsNullAndTheNextOneIsRight) {
   g_mallocFails = true;
   EXPECT_EQ(GetConfigKey(), nullptr);
   g_mallocFails = false;
+  g_allocationsLeft = 0;
+  EXPECT_EQ(GetConfigKey(), nullptr);
+  g_allocationsLeft = -1;
   char* const key = GetConfigKey();
   EXPECT_STREQ(key, "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1");
   std::free(key);
