@@ -5,6 +5,8 @@
 usage: library_test.py LIBRARY SONAME BUILD_TYPE WITH_PLUGIN
 WITH_PLUGIN is 1 if the library was built with the plugin object.
 """
+import _ctypes
+import ctypes
 import re
 import subprocess
 import sys
@@ -46,6 +48,13 @@ class LibraryTest(unittest.TestCase):
         constructors = {name for name in output_of("nm", LIBRARY).split()
                         if name.startswith("_GLOBAL__sub_I_") and not name.endswith(".cold")}
         self.assertEqual(constructors, {"_GLOBAL__sub_I_engine.cpp"})
+
+    @unittest.skipIf(WITH_PLUGIN, "the plugin needs GLib and the embedding")
+    def test_closing_the_library_leaves_the_engine(self):
+        library = ctypes.CDLL(LIBRARY)
+        library.SetMaxRow(11)
+        _ctypes.dlclose(library._handle)
+        self.assertEqual(ctypes.CDLL(LIBRARY).GetMaxRow(), 11)
 
     def test_soname(self):
         self.assertEqual(dynamic_entries("SONAME"), [SONAME])
