@@ -194,7 +194,7 @@ void CCalendarLogic::GotoTodayOffsetMonth(int offset) {
 // A month outside 1900 to 2099 has no length here, so its day is -1 and the build rejects it.
 void CCalendarLogic::_GotoMonthOffset(const CCalendarSolarDate& today, int offset) {
   const int monthsFromStart = WrapSubtract(WrapAdd(today.month, offset), 1);
-  const int year = today.year + FloorDivide(monthsFromStart, kMonthsOfYear);
+  const int year = WrapAdd(today.year, FloorDivide(monthsFromStart, kMonthsOfYear));
   const int month = FloorModulo(monthsFromStart, kMonthsOfYear) + 1;
   const int day = std::min(today.day, almara::DaysOfBoardMonth(year, month));
   const CCalendarSolarDate date{year, month, day, 0};

@@ -20,6 +20,7 @@
 using almara::PageDirection;
 using almara::test::Board;
 using almara::test::CaptureStdout;
+using almara::test::SetNow;
 using almara::test::SetToday;
 
 namespace {
@@ -511,6 +512,13 @@ TEST_F(Logic, OffsetToAMonthOutsideTheYearsPrintsDayMinus1AndKeepsTheBoard) {
   }
 }
 
+TEST_F(Logic, OffsetOfMonthsFromTheLastYearOfAClockWraps) {
+  SetNow(67767976233500000);  // in December of the year 2^31 - 1
+  m_engine.SetDispMonth(kMonth);
+  m_engine.GotoTodayOffsetMonth(1);
+  EXPECT_EQ(Trace(), "-2147483648-1--1");
+}
+
 TEST_F(Logic, TraceStandsBeforeTheTextOfTheBoardWithoutALineEnd) {
   m_engine.GotoTodayOffsetMonth(0);
   EXPECT_EQ(m_output.Take().rfind("build-logic 2024-3-13\n\n\n\n\nweeknumber = 10", 0), 0U);
@@ -673,6 +681,18 @@ TEST_F(Logic, TodayHasItsWeekdayAndDoesNotTouchTheBoard) {
 }
 
 // What was today at the last build stays so until the next.
+// No board can be built for the day after, so that the one before stays.
+TEST_F(Logic, MidnightAfterTheLastYearLeavesTheBoard) {
+  SetToday(2099, 12, 31);
+  m_engine.GotoToday();
+  SetToday(2100, 1, 1);
+  m_engine.Build();
+  m_engine.InitCalendarLogic(eLanguageChs);
+  EXPECT_EQ(Date(m_engine.GetToday()), "2100-1-1");
+  EXPECT_EQ(Focus(), "2099-12-31");
+  EXPECT_TRUE(m_engine.IsTodayInBoard());
+}
+
 TEST_F(Logic, MidnightPassesBetweenBuilds) {
   m_engine.GotoToday();
   SetToday(2024, 3, 14);
