@@ -24,6 +24,14 @@ std::vector<CCalendarSolarDate> Days(std::size_t count, bool shuffled) {
   return shuffled ? almara::test::Shuffled(days) : days;
 }
 
+std::vector<CCalendarSolarDate> NewYearsDays(int first, int last) {
+  std::vector<CCalendarSolarDate> days;
+  for (int year = first; year <= last; ++year) {
+    days.push_back({year, 1, 1, 0});
+  }
+  return days;
+}
+
 std::string KeyOf(const CCalendarSolarDate& date) {
   char text[3 * almara::kMaxDecimalLength + 2];
   return {text, almara::AppendDate(text, date.year, date.month, date.day)};
@@ -63,9 +71,8 @@ BENCHMARK_CAPTURE(MapFind, in_order, false)->RangeMultiplier(10)->Range(1000, 10
 BENCHMARK_CAPTURE(MapFind, random_order, true)->RangeMultiplier(10)->Range(1000, 1000000);
 
 // Memory kept for a date once all four look-ups of it are answered.
-void BytesOfAnsweredDate(benchmark::State& state) {
+void BytesOfAnsweredDate(benchmark::State& state, const std::vector<CCalendarSolarDate>& days) {
   g_mac_timezone = 8;
-  const auto days = almara::test::DaysOfYears(1950, 2049);
   for (auto _ : state) {
     const std::size_t before = mallinfo2().uordblks;
     CCalendarLogic engine;
@@ -79,6 +86,8 @@ void BytesOfAnsweredDate(benchmark::State& state) {
         static_cast<double>(mallinfo2().uordblks - before) / static_cast<double>(days.size());
   }
 }
-BENCHMARK(BytesOfAnsweredDate)->Iterations(1);
+BENCHMARK_CAPTURE(BytesOfAnsweredDate, every_day, almara::test::DaysOfYears(1950, 2049))
+    ->Iterations(1);
+BENCHMARK_CAPTURE(BytesOfAnsweredDate, one_a_year, NewYearsDays(3000, 13000))->Iterations(1);
 
 }  // namespace
