@@ -3,7 +3,8 @@
  * almara: a month board, lunisolar dates, solar terms and festivals for desktop calendars.
  *
  * The library holds one engine. It is created, with the default options and an empty board, when
- * the library is loaded, and lives until the process ends; there is nothing to open or to close.
+ * the library is loaded, and lives until the process ends, even if the library is closed; there is
+ * nothing to open or to close.
  *
  * A host's life with it:
  *
@@ -22,22 +23,34 @@
  *     GotoTodayOffset(). Each builds another board to draw.
  *
  * Threads: drive the engine from one thread, usually the one that draws the window. Two board
- * builds never run at the same time, but nothing else is locked.
+ * builds never run at the same time, but nothing else is locked. Never call from a signal handler,
+ * nor in a child process that was forked while another thread was building: the lock of that build
+ * is never released there.
  *
  * Errors: there are no error codes. Every function accepts every value of its arguments. An
  * argument that makes no sense is ignored or gives the fallback stated with the function, and a
  * date that no board can be built for leaves the dates on the board, and the date it is built for,
  * as they were; only which rows and columns are visible, and the spans, are worked out again under
- * the options now in force. A failed allocation propagates as the C++ exception std::bad_alloc; the
- * engine stays usable. Where it was the allocation of a board, the board is empty, as before the
- * first build.
+ * the options now in force.
  *
- * Memory: a board takes about 300 bytes a row, and a list entry of 32 bytes for each listed day.
- * Rows are not limited, so a host must not ask for millions of them. Answers about dates are kept
- * without a limit, one for each distinct date and language asked.
+ * Out of memory: a failed allocation propagates as the C++ exception std::bad_alloc, which ends the
+ * process of a host that is not written in C++; GetConfigKey() alone returns NULL instead. The
+ * engine stays usable. Where it was the allocation of a board, the board is empty, as before the
+ * first build. If memory runs out while the C library reads the file of a time zone, it takes the
+ * zone for UTC from then on and reports nothing.
+ *
+ * Memory: a board takes about 300 bytes a row, and 800 while it is built. Rows are not limited, so
+ * a host must not ask for millions of them. Answers are kept without a limit, also where the answer
+ * is that there is none: one for each distinct date and language asked, and one week number for
+ * each distinct date and rule. Dates that lie together take about 35 bytes each for all four
+ * answers, dates scattered over the years 1.6 kB. ForgetAnnotations() gives all of that back.
  *
  * Output: every board build writes the board as text to the standard output, and GotoTodayOffset()
- * writes the date it went to, unless SetPrintBoard(false) has switched that off.
+ * writes the date it went to, unless SetPrintBoard(false) has switched that off. Text that cannot
+ * be written is lost. A pipe or a socket gets it at once: a reader that has gone does no harm, and
+ * one that does not read holds up one call for a quarter of a second, and later ones not at all
+ * until it reads again. A file or a terminal gets the text through the C library's stdout, as if
+ * the host had printed it.
  */
 #ifndef ALMARA_ALMARA_H_
 #define ALMARA_ALMARA_H_
@@ -214,7 +227,10 @@ ALMARA_EXPORT CCalendarSolarDate GetContentDate(void);
 /** Today's date in the machine's zone, with its day of week. Does not touch the board. */
 ALMARA_EXPORT CCalendarSolarDate GetToday(void);
 
-/** Whether the last build put today on the board, hidden columns included. */
+/**
+ * Whether the last build put today on the board, hidden columns included. From 2100 on no board of
+ * today can be built, so that the last one stays, with the day that was today then.
+ */
 ALMARA_EXPORT bool IsTodayInBoard(void);
 
 /* ---- Annotating dates ------------------------------------------------------------------------

@@ -921,7 +921,8 @@ class AlmaraBindings {
   late final _IsBreakDayOfWeek = _IsBreakDayOfWeekPtr
       .asFunction<bool Function(int)>(isLeaf: true);
 
-  /// Whether the last build put today on the board, hidden columns included.
+  /// Whether the last build put today on the board, hidden columns included. From 2100 on no board of
+  /// today can be built, so that the last one stays, with the day that was today then.
   bool IsTodayInBoard() {
     return _IsTodayInBoard();
   }
