@@ -42,8 +42,8 @@ std::vector<tagCalendarCell> ReadRow(int row, const std::vector<int>& columns) {
   return cells;
 }
 
-// The month intervals and the region stay as asked: GetShowMonthInterval() answers with another
-// flag, and no function tells the region.
+// The month intervals, the week rule and the region stay as asked: GetShowMonthInterval() answers
+// with another flag, one rule is the viewer's, and no function tells the region.
 BoardOptions ReadOptions(const BoardOptions& asked) {
   BoardOptions options = asked;
   options.mode = GetDispMonth();
@@ -51,11 +51,47 @@ BoardOptions ReadOptions(const BoardOptions& asked) {
   options.passedWeeks = GetPassedWeeks();
   options.firstDay = GetStartDayOfWeek();
   options.startWeek = GetStartWeekNumber();
-  options.weekRule = GetWeekNumberCalcType();
   for (int day = eCalendarWeekSunday; day <= eCalendarWeekSaturday; ++day) {
     options.breakDays[static_cast<std::size_t>(day)] = IsBreakDayOfWeek(day);
   }
   return options;
+}
+
+int WeekOfFirstDay(CivilDate date, ECalendarWeek firstDay) {
+  const int daysBefore = (DayOfWeek({date.year, 1, 1}) - firstDay + 7) % 7;
+  return (daysBefore + DayOfYear(date) - 1) / 7 + 1;
+}
+
+// The span of one row whose days are in these two weeks, which may be the same. Of a week that ends
+// in the next year the whole is week 1.
+tagWeekNumberSpan SpanOfRow(int firstWeek, int lastWeek) {
+  return lastWeek == 1 || lastWeek == firstWeek ? tagWeekNumberSpan{lastWeek, 0, 1}
+                                                : tagWeekNumberSpan{firstWeek, lastWeek, 1};
+}
+
+// Numbers the weeks by kWeeksOfFirstDay. A row that goes on with the week above joins its span.
+void NumberWeeksOfFirstDay(BoardSnapshot& board) {
+  board.weekSpans.clear();
+  for (auto& row : board.rows) {
+    int firstWeek = 0;
+    int lastWeek = 0;
+    for (tagCalendarCell& cell : row) {
+      if (ShowsDay(cell)) {
+        cell.weekNumber = WeekOfFirstDay(DateOf(cell), board.options.firstDay);
+        firstWeek = firstWeek == 0 ? cell.weekNumber : firstWeek;
+        lastWeek = cell.weekNumber;
+      }
+    }
+    const tagWeekNumberSpan span = SpanOfRow(firstWeek, lastWeek);
+    const bool goesOn =
+        !board.weekSpans.empty() &&
+        (span.weekNumber == 0 || span.weekNumber == board.weekSpans.back().weekNumber);
+    if (goesOn) {
+      ++board.weekSpans.back().rows;
+    } else {
+      board.weekSpans.push_back(span);
+    }
+  }
 }
 
 }  // namespace
@@ -73,7 +109,7 @@ void ApplyOptions(const BoardOptions& options) {
   SetPassedWeeks(options.passedWeeks);
   SetStartDayOfWeek(options.firstDay);
   SetStartWeekNumber(options.startWeek);
-  SetWeekNumberCalcType(options.weekRule);
+  SetWeekNumberCalcType(EngineWeekRule(options.weekRule));
   SetShowMonthInterval(options.monthIntervals);
   SetHideBreakDay(options.hideBreakDays);
   SetShowBreakDayOfWeek(!EngineHidesBreakDays(options));
@@ -131,6 +167,9 @@ BoardSnapshot ReadBoard(const BoardOptions& asked) {
   }
   for (int index = 0; index < GetWeekNumberCount(); ++index) {
     board.weekSpans.push_back(GetWeekNumberItemWithIndex(index));
+  }
+  if (asked.weekRule == kWeeksOfFirstDay) {
+    NumberWeeksOfFirstDay(board);
   }
   board.contentDate = GetContentDate();
   board.today = GetToday();

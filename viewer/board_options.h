@@ -10,6 +10,14 @@
 
 namespace almara::viewer {
 
+// The viewer's own week rule: as eWeekNumberCalcFromJan1, in weeks that begin on the first day of
+// the week, where the engine's weeks begin on Monday.
+constexpr EWeekNumberCalc kWeeksOfFirstDay = -1;
+
+constexpr EWeekNumberCalc EngineWeekRule(EWeekNumberCalc rule) {
+  return rule == kWeeksOfFirstDay ? eWeekNumberCalcFromJan1 : rule;
+}
+
 struct BoardOptions {
   EDispMonth mode = eDispMonthRollingWeeks;
   int rows = 5;
@@ -55,7 +63,8 @@ constexpr Word<EDispMonth> kModeWords[] = {{"rolling", eDispMonthRollingWeeks},
 
 constexpr Word<EWeekNumberCalc> kWeekRuleWords[] = {{"iso", eWeekNumberCalcIso8601},
                                                     {"jan1", eWeekNumberCalcFromJan1},
-                                                    {"start", eWeekNumberCalcFromStartWeek}};
+                                                    {"start", eWeekNumberCalcFromStartWeek},
+                                                    {"first-day", kWeeksOfFirstDay}};
 
 constexpr Word<ECalendarWeek> kDayWords[] = {
     {"sun", eCalendarWeekSunday},    {"mon", eCalendarWeekMonday},   {"tue", eCalendarWeekTuesday},

@@ -224,7 +224,7 @@ class CommandLine {
             [this] { m_options.weekNumbers = WeekNumbers::kAlways; });
     AddFlag("--no-week-numbers", "Leave the numbers of the weeks out", kPages,
             [this] { m_options.weekNumbers = WeekNumbers::kNever; });
-    AddWord("--week-rule", "RULE", "iso, jan1 or start: counted from --start-week (iso)", kUse,
+    AddWord("--week-rule", "RULE", "iso, jan1, start (from --start-week) or first-day (iso)", kUse,
             kWeekRuleWords, board.weekRule);
     AddNumber("--start-week", "The week that is shown as week 1, 1 to 53 (1)", kUse, 1, 53,
               board.startWeek);

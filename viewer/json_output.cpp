@@ -53,7 +53,7 @@ Json OptionsJson(const BoardSnapshot& board, LunarSource source) {
           {"startDayOfWeekName", WordFor(kDayWords, options.firstDay)},
           {"startWeekNumber", options.startWeek},
           {"weekRule", WordFor(kWeekRuleWords, options.weekRule)},
-          {"weekNumberCalcType", options.weekRule},
+          {"weekNumberCalcType", EngineWeekRule(options.weekRule)},
           {"hideBreakDay", board.hideBreakDay},
           {"showBreakDayOfWeek", board.showBreakDayOfWeek},
           {"showMonthInterval", options.monthIntervals},

@@ -125,6 +125,21 @@ class Options(unittest.TestCase):
         shifted = lines("--week-rule", "start", "--start-week", "11")
         self.assertTrue(shifted[3].startswith("    1 ╶ 11       [12]"))
 
+    def test_weeks_of_the_first_day(self):
+        def numbers(*arguments):
+            board = lines("--week-rule", "first-day", "-S", *arguments)
+            return [line[:7].split()[0] for line in board[2:]]
+
+        self.assertEqual(numbers("jan", "2023"), ["1", "2", "3", "4", "5"])  # 1 January is a Sunday
+        self.assertEqual(numbers("--date", "2024-04-29"), ["17", "18", "╰", "19", "20"])
+        self.assertEqual(numbers("--date", "2026-12-28"), ["52", "53", "1", "2", "3"])
+        self.assertEqual(numbers("dec", "2023", "--no-month-interval")[-1], "1")
+        self.assertEqual(numbers("--mode", "strip"), ["10/11"])
+        sunday = read_json("--week-rule", "first-day", "-S", "--day", "2024-03-17")
+        self.assertEqual(sunday["weekNumber"], 12)
+        options = read_json("--week-rule", "first-day")["options"]
+        self.assertEqual((options["weekRule"], options["weekNumberCalcType"]), ("first-day", 0))
+
     def test_rows_and_passed_weeks(self):
         board = lines("--rows", "3", "--passed-weeks", "2", "--no-month-interval")
         self.assertEqual([line.split()[0] for line in board[2:]], ["9", "10", "11"])
