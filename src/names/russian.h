@@ -14,7 +14,7 @@ constexpr Name kRussianSolarTerms[] = {
     {eSekkiRainWater, "Дождевая вода", "Дожд.вода"},
     {eSekkiAwakeningOfInsects, "Пробуждение насекомых", "Пробужд."},
     {eSekkiSpringEquinox, "Весеннее равноденствие", "Равноден."},
-    {eSekkiClearAndBright, "Ясно и светло", "Ясно"},
+    {eSekkiClearAndBright, "Чистый свет", "Чист.свет"},
     {eSekkiGrainRain, "Хлебные дожди", "Хл. дожди"},
     {eSekkiStartOfSummer, "Начало лета", "Нач. лета"},
     {eSekkiGrainBuds, "Малое изобилие", "М. изоб."},

@@ -42,7 +42,7 @@ Texts TextsGerman() {
   texts.dayOfYearValue = "{d} von {c}";
   texts.lunarDateLabel = "Mondkalender";
   texts.newMoon = "Neumond";
-  texts.solarTerm = "Sonnenabschnitt";
+  texts.solarTerm = "Sonnenperiode";
   texts.festivals = "Festtage";
   texts.notCertain = "Unsicher";
   texts.byEngine = "Engine";

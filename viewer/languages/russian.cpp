@@ -45,7 +45,7 @@ Texts TextsRussian() {
   texts.newMoon = "Новолуние";
   texts.solarTerm = "Солнечный сезон";
   texts.festivals = "Праздники";
-  texts.notCertain = "Не точно";
+  texts.notCertain = "Под вопросом";
   texts.byEngine = "Движок";
   texts.byAlmanac = "Альманах";
   texts.fromToday = "Когда";
@@ -57,7 +57,7 @@ Texts TextsRussian() {
 
   texts.hint = "? справка  q выход";
   texts.goTo = "Перейти к (ГГГГ-ММ-ДД): ";
-  texts.notADate = "не день с 1900-01-01 по 2099-12-31";
+  texts.notADate = "не дата с 1900-01-01 по 2099-12-31";
   texts.arrangement = "Вид: {a}";
   texts.firstDay = "Первый день недели: {w}";
   texts.rows = "Строк: {c}";

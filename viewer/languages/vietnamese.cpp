@@ -44,7 +44,7 @@ Texts TextsVietnamese() {
   texts.solarTerm = "Tiết khí";
   texts.festivals = "Ngày lễ";
   texts.notCertain = "Chưa chắc chắn";
-  texts.byEngine = "Bộ máy tính";
+  texts.byEngine = "Bộ tính";
   texts.byAlmanac = "Lịch công bố";
   texts.fromToday = "So với hôm nay";
   texts.today = "hôm nay";
