@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 """One cell of the month board."""
 
-from dataclasses import dataclass
+from dataclasses import astuple, dataclass
 
 from .arithmetic import date_text
 
@@ -42,13 +42,4 @@ class Cell:
 
     def record(self):
         """The cell's values in the order of the exported record."""
-        return (
-            self.year,
-            self.month,
-            self.day,
-            self.day_of_week,
-            self.week_number,
-            self.row,
-            self.column,
-            self.type,
-        )
+        return astuple(self)

@@ -95,62 +95,11 @@ class Engine:
     def is_today_in_board(self):
         return self.logic.board.today_on_board
 
-    # Options
-
-    def get_disp_month(self):
-        return self.options.mode
-
-    def set_disp_month(self, mode):
-        self.options.mode = mode
-
-    def get_max_row(self):
-        return self.options.max_rows
-
-    def set_max_row(self, rows):
-        self.options.max_rows = rows
-
-    def get_passed_weeks(self):
-        return self.options.passed_weeks
-
-    def set_passed_weeks(self, weeks):
-        self.options.passed_weeks = weeks
-
-    def get_start_day_of_week(self):
-        return self.options.start_day_of_week
-
-    def set_start_day_of_week(self, day):
-        self.options.start_day_of_week = day
-
-    def get_start_week_number(self):
-        return self.options.start_week_number
-
-    def set_start_week_number(self, week):
-        self.options.start_week_number = week
-
-    def get_hide_break_day(self):
-        return self.options.hide_break_day
-
-    def set_hide_break_day(self, hide):
-        self.options.hide_break_day = bool(hide & 1)
+    # Options, apart from those in INTS and FLAGS
 
     def get_show_month_interval(self):
         """Answers with the hide-break-day flag; the interval flag cannot be read back."""
         return self.options.hide_break_day
-
-    def set_show_month_interval(self, show):
-        self.options.show_month_interval = bool(show & 1)
-
-    def get_show_break_day_of_week(self):
-        return self.options.show_break_day_of_week
-
-    def set_show_break_day_of_week(self, show):
-        self.options.show_break_day_of_week = bool(show & 1)
-
-    def get_week_number_calc_type(self):
-        return self.options.week_number_calc_type
-
-    def set_week_number_calc_type(self, calc_type):
-        self.options.week_number_calc_type = calc_type
 
     def get_civil_days(self):
         return self.logic.dates.civil
@@ -180,3 +129,28 @@ class Engine:
 
     def check_festival_lunar_with_lang(self, language, date):
         return self.logic.lunar_festival(language, SolarDate(*date[:3]))
+
+
+# The options by their names in getters and setters.
+INTS = {
+    "disp_month": "mode",
+    "max_row": "max_rows",
+    "passed_weeks": "passed_weeks",
+    "start_day_of_week": "start_day_of_week",
+    "start_week_number": "start_week_number",
+    "week_number_calc_type": "week_number_calc_type",
+}
+FLAGS = ("hide_break_day", "show_month_interval", "show_break_day_of_week")
+
+
+def _add_option(name, option, stored):
+    """Give the engine the getter, where it has none of its own, and the setter of an option."""
+    if not hasattr(Engine, f"get_{name}"):
+        setattr(Engine, f"get_{name}", lambda self: getattr(self.options, option))
+    setattr(Engine, f"set_{name}", lambda self, value: setattr(self.options, option, stored(value)))
+
+
+for _name, _option in INTS.items():
+    _add_option(_name, _option, int)
+for _name in FLAGS:
+    _add_option(_name, _name, lambda value: bool(value & 1))

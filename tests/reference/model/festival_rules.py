@@ -7,34 +7,6 @@ from .week_number import FRIDAY
 
 UNSET = -1
 
-# Last year and the two constants of the century rule.
-CENTURY_CONSTANTS = (
-    (1699, 22, 2),
-    (1799, 23, 3),
-    (1899, 23, 4),
-    (2099, 24, 5),
-    (2199, 24, 6),
-    (2299, 25, 0),
-)
-
-
-def easter_by_centuries(year):
-    """Easter Sunday of 1583 to 2299 as month and day, None outside."""
-    if not 1583 <= year <= 2299:
-        return None
-    m, n = next((m, n) for last, m, n in CENTURY_CONSTANTS if year <= last)
-    a = year % 19
-    d = (19 * a + m) % 30
-    e = (2 * (year % 4) + 4 * (year % 7) + 6 * d + n) % 7
-    if d + e < 10:
-        return 3, d + e + 22
-    day = d + e - 9
-    if day == 26:
-        return 4, 19
-    if day == 25 and d == 28 and e >= 6 and a >= 11:
-        return 4, 18
-    return 4, day
-
 
 def easter_of_any_year(year):
     """Easter Sunday as month and day by truncating divisions throughout."""
@@ -59,7 +31,6 @@ class FestivalRules:
 
     def __init__(self, dates):
         self.dates = dates
-        self.century_easter = None
         self.easter_year = UNSET
         self.easter = None
         self.good_friday_month = UNSET
@@ -81,12 +52,6 @@ class FestivalRules:
                 if found == n:
                     return date.day
         return -1
-
-    def gauss_easter(self, year):
-        """Easter by the century rule; the first year answers for every later one."""
-        if self.century_easter is None:
-            self.century_easter = easter_by_centuries(year)
-        return self.century_easter
 
     def easter_if_asked_before(self, year):
         """Easter when the year is the one asked last, else None; either way it is now that one."""

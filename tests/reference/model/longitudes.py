@@ -7,7 +7,7 @@ order of every floating-point operation is part of the behaviour.
 
 from math import cos
 
-from .arithmetic import INT32_MAX, INT32_MIN, remainder, truncate
+from .arithmetic import INT32_MAX, INT32_MIN, truncate
 
 DEGREE = 0.017453292519943295
 
@@ -95,14 +95,13 @@ MOON_TERMS = (
 )
 
 
-def day_count(year, month, day, hour=0.0, minute=0.0, second=0.0):
-    """The day count of a Gregorian date and time."""
+def day_count(year, month, day):
+    """The day count of a Gregorian date."""
     if month < 3:
         year -= 1
         month += 12
     years = truncate(365.25 * year) + truncate(year / 400) - truncate(year / 100)
-    days = years + truncate(30.59 * (month - 2)) + 1721088 + day
-    return days + (hour + minute / 60 + second / 3600) / 24
+    return float(years + truncate(30.59 * (month - 2)) + 1721088 + day)
 
 
 def day_count_fits(year, month, day):
@@ -114,8 +113,8 @@ def day_count_fits(year, month, day):
     return all(INT32_MIN <= part <= INT32_MAX for part in parts)
 
 
-def date_and_time(count):
-    """Year, month, day, hour, minute and second of a day count."""
+def year_and_month(count):
+    """Year and month of a day count."""
     days = truncate(count + 68570)
     century = truncate(days / 36524.25)
     rest = days - truncate(36524.25 * century + 0.75)
@@ -123,17 +122,7 @@ def date_and_time(count):
     rest = rest - truncate(365.25 * year_of_century) + 31
     month_index = truncate(truncate(rest) / 30.59)
     carry = truncate(month_index / 11)
-    day = rest - truncate(30.59 * month_index)
-    month = month_index - 12 * carry + 2
-    year = 100 * (century - 49) + year_of_century + carry
-    if day > 28 and month == 2:
-        # Centuries count as leap years here: divisibility by 4 is enough.
-        day = 29 if remainder(truncate(year), 4) == 0 else 28
-    seconds = (count - truncate(count)) * 86400
-    hour = truncate(seconds / 3600)
-    seconds -= 3600 * hour
-    minute = truncate(seconds / 60)
-    return year, month, day, hour, minute, truncate(seconds - 60 * minute)
+    return 100 * (century - 49) + year_of_century + carry, month_index - 12 * carry + 2
 
 
 def normalised_angle(angle):

@@ -6,12 +6,12 @@ from typing import NamedTuple
 
 from .arithmetic import truncate
 from .longitudes import (
-    date_and_time,
     day_count,
     day_count_fits,
     moon_longitude,
     normalised_angle,
     sun_longitude,
+    year_and_month,
 )
 
 ONE_SECOND = 1.1574074074074073e-5
@@ -190,7 +190,7 @@ class LunarConverter:
                 current = month
             if month.start >= today:
                 break
-        year, gregorian_month, *_ = date_and_time(count)
+        year, gregorian_month = year_and_month(count)
         if current.month >= 10 and gregorian_month < current.month:
             year -= 1
         return LunarDate(year, current.month, today - current.start + 1, 0, current.leap)

@@ -10,7 +10,7 @@ KEY_WEEKDAYS = (1, 2, 3, 4, 5, 6, 0)
 
 
 class BoardOptions:
-    """Everything that shapes a board; only the setters with a check are methods."""
+    """Everything that shapes a board; only the setter with a check is a method."""
 
     def __init__(self):
         self.mode = ROLLING_WEEKS
@@ -24,11 +24,6 @@ class BoardOptions:
         self.break_days = [1, 0, 0, 0, 0, 0, 1]
         self.show_break_day_of_week = True
         self.week_number_calc_type = 1
-
-    def set_max_columns(self, columns):
-        """Set the columns of the strip; anything outside 1 to 7 is ignored."""
-        if 1 <= columns <= 7:
-            self.max_columns = columns
 
     def set_break_day(self, weekday, on):
         """Mark or clear a break day by the lowest bit of ``on``; a wrong weekday is ignored."""

@@ -6,7 +6,6 @@ apply; the two are kept apart.
 """
 
 from math import cos, floor
-from typing import NamedTuple
 
 from .arithmetic import remainder, truncate
 from .longitudes import DEGREE
@@ -38,17 +37,6 @@ SERIES = (
 GROWING_TERMS = (0, 4)
 
 
-class TermDate(NamedTuple):
-    """When a solar term falls; the hour is rounded and may be 24."""
-
-    longitude: float
-    year: int
-    month: int
-    day: int
-    hour: int
-    term: int
-
-
 def is_leap(year):
     """The Julian leap rule up to 1582, the Gregorian one after."""
     year = truncate(year)
@@ -61,16 +49,6 @@ def month_lengths(year):
     """The lengths of the twelve months of a year."""
     february = 29 if is_leap(year) else 28
     return (31, february) + DAYS_OF_MONTH[2:]
-
-
-def month_days(year, month):
-    """The length of a month as a double."""
-    return float(month_lengths(year)[truncate(month) - 1])
-
-
-def year_days(year, month, day):
-    """The day of the year of a date, from 1."""
-    return float(day) + sum(month_lengths(year)[: max(truncate(month) - 1, 0)])
 
 
 def days_to_month_day(year, day_of_year):
@@ -150,7 +128,7 @@ class SolarTerms:
         self._tables = {}
 
     def of_year(self, year):
-        """The 24 term dates of a year, None outside 1800 to 2099.
+        """Month and day of the 24 terms of a year, None outside 1800 to 2099.
 
         The tables are kept for speed alone; they depend on nothing but the year and the zone.
         """
@@ -167,20 +145,12 @@ class SolarTerms:
             longitude -= 360
         zone = self.dates.zone_hours / 24.0
         value = zone + days_of_longitude(year, longitude) - delta_t(year) / 86400
-        hour = floor((value - floor(value)) * 24 + 0.5)
         month_day = days_to_month_day(year, floor(value))
-        return TermDate(
-            longitude,
-            truncate(year),
-            floor(month_day / 100),
-            remainder(truncate(month_day), 100),
-            hour,
-            index,
-        )
+        return floor(month_day / 100), remainder(truncate(month_day), 100)
 
     def check(self, year, month, day):
         """The term that falls on a local civil date, or -1."""
-        for entry in self.of_year(year) or ():
-            if (entry.month, entry.day) == (month, day):
-                return entry.term
+        for term, found in enumerate(self.of_year(year) or ()):
+            if found == (month, day):
+                return term
         return NO_TERM
