@@ -1,22 +1,14 @@
 /* SPDX-License-Identifier: MIT
  *
  * A foreign caller that hands over other bytes than 0 and 1 for a bool: only the lowest bit counts.
- * The functions are found by name and called as taking a byte or an int. */
+ * The functions are found by name and called as taking an int, of which the lowest byte arrives. */
 #include <dlfcn.h>
 #include <stdint.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 
-typedef void (*ByteSetter)(uint8_t);
-typedef void (*IntSetter)(int);
-typedef void (*DayByteSetter)(int32_t, uint8_t);
-typedef void (*DayIntSetter)(int32_t, int);
-typedef char* (*TextGetter)(void);
-typedef _Bool (*FlagGetter)(void);
-
 static void* library;
-static TextGetter getKey;
 static int failures = 0;
 
 /* A function by its name. ISO C has no cast from a data pointer to a function pointer. */
@@ -29,26 +21,22 @@ static void Find(const char* name, void* function) {
   memcpy(function, &address, sizeof address);
 }
 
-/* Calls a setter with bytes, and with ints of which the lowest byte is handed over. The answer is
- * in the key, at its place, or, for a place below 0, is given by GetCivilDays(). */
+/* Calls a setter. The answer is in the key, at its place, or, for a place below 0, is given by
+ * GetCivilDays(). */
 static void CheckSetter(const char* name, int place) {
-  ByteSetter setByte;
-  IntSetter setInt;
-  DayByteSetter setDayByte;
-  DayIntSetter setDayInt;
-  FlagGetter getCivilDays;
-  const int ofDay = strcmp(name, "SetBreakDayOfWeek") == 0;
-  Find(name, &setByte);
-  Find(name, &setInt);
-  Find(name, &setDayByte);
-  Find(name, &setDayInt);
+  void (*set)(int);
+  void (*setOfDay)(int32_t, int);
+  char* (*getKey)(void);
+  _Bool (*getCivilDays)(void);
+  Find(name, &set);
+  Find(name, &setOfDay);
+  Find("GetConfigKey", &getKey);
   Find("GetCivilDays", &getCivilDays);
   for (int value = -258; value <= 515; ++value) {
-    const int isByte = value >= 0 && value <= 255;
-    if (ofDay) {
-      isByte ? setDayByte(3, (uint8_t)value) : setDayInt(3, value);
+    if (strcmp(name, "SetBreakDayOfWeek") == 0) {
+      setOfDay(3, value);
     } else {
-      isByte ? setByte((uint8_t)value) : setInt(value);
+      set(value);
     }
     char* key = getKey();
     const int answer = place < 0 ? getCivilDays() : key[place] == '1';
@@ -66,7 +54,6 @@ int main(int argc, char** argv) {
     fprintf(stderr, "usage: bool_setters_test LIBRARY\n");
     return EXIT_FAILURE;
   }
-  Find("GetConfigKey", &getKey);
   /* "1-5-7-1-1-1-0-1-1-(0-0-0-0-0-1-1)-1" */
   CheckSetter("SetHideBreakDay", 12);
   CheckSetter("SetShowMonthInterval", 16);
