@@ -188,17 +188,6 @@ def _names_of_solstice_year(first, following, principal):
 # The library
 
 
-def engine_date(library, record):
-    """The lunar date that the engine has for a day."""
-    year, month, day, _, leap = library.call("ConverterLunarWithDate", record)
-    return LunarDate(year, month, leap, day)
-
-
-# Each source of lunar dates in the library: its name, and what it answers for a day. Its dates come
-# after InitCalendarLogicDt() with the host's language, on a machine set to the host's zone.
-LIBRARY_SOURCES = {"engine": engine_date}
-
-
 class Host(NamedTuple):
     """What a host of the library says, and the zone that its lunar dates are in by that."""
 
@@ -214,7 +203,7 @@ OTHER_HOSTS = tuple(Host(LANGUAGE_ENG, zone) for zone in ZONES if zone not in (7
 class Answers(NamedTuple):
     """What the library answers for every day."""
 
-    dates: dict  # by source
+    dates: list  # of LunarDate
     terms: list  # of (day, ESolarKyureki24)
     festivals: dict  # EFestivalLunar by day
 
@@ -226,12 +215,11 @@ def _answers(path, host):
     os.dup2(os.open(os.devnull, os.O_WRONLY), 1)  # boards are printed
     library = Library(path)
     library.call("InitCalendarLogicDt", host.language)
-    dates = {name: [] for name in LIBRARY_SOURCES}
-    terms, festivals = [], {}
+    dates, terms, festivals = [], [], {}
     for day in range(DAYS):
         record = (*day_of(day).timetuple()[:3], 0)
-        for name, source in LIBRARY_SOURCES.items():
-            dates[name].append(source(library, record))
+        year, month, of_month, _, leap = library.call("ConverterLunarWithDate", record)
+        dates.append(LunarDate(year, month, leap, of_month))
         term = library.call("Check24SekkiWithDate", record)
         if term >= 0:
             terms.append((day, term))

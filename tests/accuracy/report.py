@@ -10,7 +10,7 @@ import math
 import sys
 
 from almanac import almanacs
-from calendars import DAYS, FIRST_YEAR, HOSTS, LAST_YEAR, LIBRARY_SOURCES, OTHER_HOSTS, ZONES
+from calendars import DAYS, FIRST_YEAR, HOSTS, LAST_YEAR, OTHER_HOSTS, ZONES
 from calendars import Ephemeris, Icu, ask_library, day_number, day_of
 from zones import DAY, FIXED_DAYS, MONTH, Zone, count_days, deviations, errors
 
@@ -73,20 +73,9 @@ def in_short(zones):
     """The figures of a look."""
     print_table(
         "In short", ("zone", "lunar dates off", "these", "solar terms on another day"),
-        [(zone_text(z.zone) + LANGUAGES[z.zone], f"{count_days(z.off('engine'))} of {DAYS}",
-          ", ".join(span_text(span.days) for span in z.off("engine")),
+        [(zone_text(z.zone) + LANGUAGES[z.zone], f"{count_days(z.off(z.engine))} of {DAYS}",
+          ", ".join(span_text(span.days) for span in z.off(z.engine)),
           f"{len(z.terms_off)} of {len(z.terms)}") for z in zones])
-
-
-def by_source(zones):
-    """Every source of lunar dates against the ephemeris."""
-    def days_off(zone, name):
-        off = zone.off(name)
-        return "-" if off is None else count_days(off)
-
-    print_table("Lunar dates off the ephemeris, by source",
-                ("source", *(zone_text(z.zone) for z in zones)),
-                [(name, *(days_off(z, name) for z in zones)) for name in (*LIBRARY_SOURCES, "ICU")])
 
 
 def elsewhere(others):
@@ -98,7 +87,7 @@ def elsewhere(others):
 
     print_table(f"In the other {len(others)} zones from UTC-12 to UTC+14",
                 ("number of", "fewest", "in the middle", "most"),
-                [row("lunar dates off", lambda z: count_days(z.off("engine"))),
+                [row("lunar dates off", lambda z: count_days(z.off(z.engine))),
                  row("solar terms on another day", lambda z: len(z.terms_off))])
 
 
@@ -106,20 +95,20 @@ def summary(zones):
     """All counts."""
     def icu_days(zone, dates):
         """On how many dates that differ between engine and ICU one is off the ephemeris."""
-        spans = deviations(zone.engine, zone.calendars["ICU"])
+        spans = deviations(zone.engine, zone.icu)
         return sum(len(span.days) for span in spans if not span.agree(dates, zone.true_dates))
 
     def row(name, count, of_icu=False):
-        return (name, *("-" if of_icu and "ICU" not in z.calendars else count(z) for z in zones))
+        return (name, *("-" if of_icu and z.icu is None else count(z) for z in zones))
 
     print_table("Summary", ("number of", *(zone_text(z.zone) for z in zones)), [
         row("days compared", lambda z: len(z.engine)),
-        row("lunar dates off the ephemeris", lambda z: count_days(z.off("engine"))),
+        row("lunar dates off the ephemeris", lambda z: count_days(z.off(z.engine))),
         row("lunar festivals off the ephemeris", lambda z: len(z.festivals_off())),
         row("lunar dates that differ from ICU",
-            lambda z: count_days(deviations(z.engine, z.calendars["ICU"])), of_icu=True),
+            lambda z: count_days(deviations(z.engine, z.icu)), of_icu=True),
         row("- the engine off the ephemeris there", lambda z: icu_days(z, z.engine), of_icu=True),
-        row("- ICU off the ephemeris there", lambda z: icu_days(z, z.calendars["ICU"]),
+        row("- ICU off the ephemeris there", lambda z: icu_days(z, z.icu),
             of_icu=True),
         row("solar terms compared", lambda z: len(z.terms)),
         row("solar terms on another day than by the ephemeris", lambda z: len(z.terms_off))])
@@ -166,7 +155,7 @@ def lunar_deviations(title, zones):
     print_table(title, ("zone", "days", "number", "the first one", "by the ephemeris", "cause"),
                 [(zone_text(z.zone), span_text(span.days), len(span.days),
                   lunar_text(z.engine[span.first]), lunar_text(z.true_dates[span.first]),
-                  cause(span, z)) for z in zones for span in z.off("engine")])
+                  cause(span, z)) for z in zones for span in z.off(z.engine)])
 
 
 def festival_deviations(zones):
@@ -252,7 +241,7 @@ def new_years(zones):
 
 def side_of(span, zone, dates_of_icu_zone):
     """Whose dates of a span are those of the ephemeris."""
-    icu = zone.calendars["ICU"]
+    icu = zone.icu
     if not span.agree(zone.engine, zone.true_dates):
         return "ICU" if span.agree(icu, zone.true_dates) else "neither"
     if (zone.zone != ICU_ZONE_BEFORE_1912 and day_of(span.first).year < 1912
@@ -265,9 +254,9 @@ def icu_deviations(zones):
     """Each span of days on which engine and ICU differ."""
     rows = []
     for z in zones:
-        if "ICU" in z.calendars:
+        if z.icu:
             dates_of_icu_zone = z.ephemeris.dates(ICU_ZONE_BEFORE_1912)
-            icu = z.calendars["ICU"]
+            icu = z.icu
             rows += [(zone_text(z.zone), span_text(span.days), len(span.days),
                       lunar_text(z.engine[span.first]), lunar_text(icu[span.first]),
                       side_of(span, z, dates_of_icu_zone))
@@ -329,7 +318,6 @@ def main():
           f"Compared with Swiss Ephemeris {ephemeris.version} (its built-in ephemeris) and ICU "
           f"{icu.version}.\n")
     in_short(zones)
-    by_source(zones)
     elsewhere(others)
     summary(zones)
     instants(zones[1])

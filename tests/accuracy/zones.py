@@ -120,21 +120,13 @@ class Zone:
         self.ephemeris = ephemeris
         self.moments = EngineMoments(self.zone)
         self.true_dates = ephemeris.dates(self.zone)
-        # By name: every calendar of this zone that is held against the ephemeris.
-        self.calendars = dict(answers.dates)
-        if icu is not None:
-            self.calendars["ICU"] = icu
+        self.engine = answers.dates
+        self.icu = icu
         self.terms = self._pair_terms()
 
-    @property
-    def engine(self):
-        """The engine's calendar."""
-        return self.calendars["engine"]
-
-    def off(self, name):
-        """The spans on which a calendar is off the ephemeris, None where there is none."""
-        dates = self.calendars.get(name)
-        return None if dates is None else deviations(dates, self.true_dates)
+    def off(self, dates):
+        """The spans on which a calendar of this zone is off the ephemeris."""
+        return deviations(dates, self.true_dates)
 
     @cached_property
     def new_moons(self):
