@@ -62,8 +62,8 @@ bool WaitForRoom(int descriptor) {
   using std::chrono::milliseconds;
   const Clock::time_point deadline = Clock::now() + (g_readerIsLate ? milliseconds{0} : kPatience);
   pollfd end{descriptor, POLLOUT, 0};
-  int count = 0;
   milliseconds left{0};
+  int count = 0;
   do {
     left = std::chrono::duration_cast<milliseconds>(deadline - Clock::now());
     count = poll(&end, 1, std::max(0, static_cast<int>(left.count())));
@@ -76,7 +76,10 @@ bool WaitForRoom(int descriptor) {
 // or not the host has made it non-blocking.
 void WriteToReader(int descriptor, std::string_view text) {
   const BrokenPipeGuard guard;
-  if (__fpending(stdout) != 0 && WaitForRoom(descriptor)) {
+  if (__fpending(stdout) != 0) {
+    if (!WaitForRoom(descriptor)) {
+      return;  // the host's text is still to come, and comes first
+    }
     std::fflush(stdout);
   }
   while (!text.empty() && WaitForRoom(descriptor)) {

@@ -24,8 +24,9 @@ using almara::test::CaptureStdout;
 
 namespace {
 
-const std::string kLongText(3 * BUFSIZ, 'x');
-const std::string kWholePipe(2 * PIPE_BUF, 'x');
+constexpr std::size_t kPipeSize = std::size_t{2} * PIPE_BUF;
+const std::string kWholePipe(kPipeSize, 'x');
+const std::string kLongText(2 * kPipeSize, 'x');
 
 TEST(StandardOutput, FileTakesTheTextAsItIsInOrderWithTheHosts) {
   CaptureStdout output;
@@ -47,7 +48,7 @@ class PipedOutput {
       std::abort();
     }
     close(ends[1]);
-    fcntl(STDOUT_FILENO, F_SETPIPE_SZ, 2 * PIPE_BUF);
+    fcntl(STDOUT_FILENO, F_SETPIPE_SZ, kPipeSize);
     m_readEnd = ends[0];
   }
   ~PipedOutput() { close(m_readEnd); }
@@ -56,7 +57,7 @@ class PipedOutput {
 
   // What is in the pipe, at least one character; empty at its end.
   std::string Read() const {
-    char text[2 * PIPE_BUF];
+    char text[kPipeSize];
     return {text,
             static_cast<std::size_t>(std::max<ssize_t>(0, read(m_readEnd, text, sizeof text)))};
   }
@@ -162,6 +163,14 @@ void BreakSocket() {
   }
 }
 
+void BlockTheSignalAndBreakSocket() {
+  sigset_t set;
+  sigemptyset(&set);
+  sigaddset(&set, SIGPIPE);
+  pthread_sigmask(SIG_BLOCK, &set, nullptr);
+  BreakSocket();
+}
+
 TEST(StandardOutputDeathTest, PipeWithoutAReaderEndsNoProcess) {
   EXPECT_EXIT(WriteAndExit(BreakPipe), testing::ExitedWithCode(0), "");
 }
@@ -171,14 +180,7 @@ TEST(StandardOutputDeathTest, SocketThatTakesNothingEndsNoProcess) {
 }
 
 TEST(StandardOutputDeathTest, SignalThatTheHostBlocksStaysBlockedAndPending) {
-  EXPECT_EXIT(WriteAndExit([] {
-                sigset_t set;
-                sigemptyset(&set);
-                sigaddset(&set, SIGPIPE);
-                pthread_sigmask(SIG_BLOCK, &set, nullptr);
-                BreakSocket();
-              }),
-              testing::ExitedWithCode(3), "");
+  EXPECT_EXIT(WriteAndExit(BlockTheSignalAndBreakSocket), testing::ExitedWithCode(3), "");
 }
 
 }  // namespace

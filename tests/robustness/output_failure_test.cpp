@@ -19,6 +19,10 @@ namespace {
 
 constexpr int kPages = 200;  // their text fills the buffer of the standard output many times
 
+[[noreturn]] void Exit(int status) {
+  std::exit(status);  // NOLINT(concurrency-mt-unsafe): the only thread
+}
+
 // Turns pages and takes everything that is shown together.
 std::uint32_t SumOfBoards() {
   std::uint32_t sum = 0;
@@ -59,7 +63,7 @@ testing::AssertionResult SumBehind(Redirect redirect, std::uint32_t& sum) {
     redirect();
     alarm(kMaxSeconds);
     const std::uint32_t answer = SumOfBoards();
-    std::exit(write(ends[1], &answer, sizeof answer) == sizeof answer ? 0 : 1);
+    Exit(write(ends[1], &answer, sizeof answer) == sizeof answer ? 0 : 1);
   }
   close(ends[1]);
   const bool answered = read(ends[0], &sum, sizeof sum) == sizeof sum;
@@ -75,14 +79,14 @@ testing::AssertionResult SumBehind(Redirect redirect, std::uint32_t& sum) {
 void RedirectTo(const char* path) {
   const int file = open(path, O_WRONLY);
   if (file < 0 || dup2(file, STDOUT_FILENO) < 0) {
-    std::exit(99);
+    Exit(99);
   }
 }
 
 void BreakPipe() {
   int ends[2];
   if (pipe(ends) != 0 || dup2(ends[1], STDOUT_FILENO) < 0) {
-    std::exit(99);
+    Exit(99);
   }
   close(ends[0]);
   close(ends[1]);
@@ -112,7 +116,7 @@ TEST_F(OutputFailure, ClosedDescriptor) {
 TEST_F(OutputFailure, ClosedStream) {
   ExpectRightBoards([] {
     if (std::freopen("/dev/null", "r", stdout) == nullptr) {
-      std::exit(99);
+      Exit(99);
     }
   });
 }
@@ -148,7 +152,7 @@ TEST_F(OutputFailure, PipeThatNobodyReads) {
   ExpectRightBoards([] {
     int ends[2];
     if (pipe(ends) != 0 || dup2(ends[1], STDOUT_FILENO) < 0) {
-      std::exit(99);
+      Exit(99);
     }
   });
 }
