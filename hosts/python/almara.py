@@ -12,8 +12,14 @@ _TYPES = {"void": None, "int32_t": ctypes.c_int32, "bool": ctypes.c_bool,
           "char*": ctypes.c_void_p, "const char*": ctypes.c_char_p}
 
 
+class _Record(ctypes.Structure):
+    def __repr__(self):
+        values = (f"{field}={getattr(self, field)}" for field, _ in self._fields_)
+        return f"{type(self).__name__}({', '.join(values)})"
+
+
 def _record(name, fields):
-    _TYPES[name] = type(name, (ctypes.Structure,),
+    _TYPES[name] = type(name, (_Record,),
                         {"_fields_": [(field, ctypes.c_int32) for field in fields.split()]})
     return _TYPES[name]
 

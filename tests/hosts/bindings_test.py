@@ -24,6 +24,8 @@ class BindingTest(unittest.TestCase):
         for sample in [(INT32_MIN, INT32_MAX, -1, 0x12345678), (0, 1, INT32_MIN, INT32_MAX)]:
             date = self.engine.CreateSolarDate(*sample)
             self.assertEqual(values(date), sample)
+        self.assertEqual(repr(self.engine.CreateSolarDate(2024, 2, 10, 6)),
+                         "CCalendarSolarDate(year=2024, month=2, day=10, dayOfWeek=6)")
         cell = self.engine.GetContentItem(INT32_MIN, INT32_MAX)
         self.assertEqual(values(cell), (0, 0, 0, 0, -1, 0, 0, almara.eCalendarItemEmpty))
 
