@@ -29,7 +29,8 @@ TEST(Texts, NoLanguageLacksAnEntry) {
     for (std::size_t index = 0; index < all.size(); ++index) {
       const bool lunarName = index >= kLunarNames && index < kEndOfLunarNames;
       EXPECT_EQ(all[index] != nullptr, !lunarName || namesLunarDays)
-          << texts.title << ", entry " << index;
+          << "of language " << texts.language << " after "
+          << (index == 0 || all[index - 1] == nullptr ? "nothing" : all[index - 1]);
     }
   }
 }
