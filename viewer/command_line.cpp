@@ -65,6 +65,18 @@ std::string MismatchText(const std::string& text) {
                                     : "--" + text.substr(0, text.find(' ')) + ": takes no value";
 }
 
+// CLI11 says "INI was not able to parse nope" of what is no option, and "x.++" of the section [x].
+std::string UnknownInFileText(const std::string& text) {
+  const std::string unknown = "INI was not able to parse ";
+  if (text.rfind(unknown, 0) != 0) {
+    return text;
+  }
+  const std::string name = text.substr(unknown.size());
+  const std::size_t section = name.find(".++");
+  return section == std::string::npos ? "unknown option '" + name + "'"
+                                      : "unknown section '" + name.substr(0, section) + "'";
+}
+
 std::vector<std::string> SplitNames(const std::string& names) {
   std::vector<std::string> split;
   std::stringstream stream(names);
@@ -106,11 +118,11 @@ class CommandLine {
 
   // Each option by its long name. Whether the options go together is left to Parse().
   void ParseFile(std::istream& file) {
-    m_app.allow_extras();
-    m_app.allow_config_extras(true);
-    m_app.parse_from_stream(file);
-    if (!m_app.remaining().empty()) {
-      throw UsageError("unknown option '" + m_app.remaining().front() + "'");
+    m_app.allow_config_extras(CLI::config_extras_mode::error);
+    try {
+      m_app.parse_from_stream(file);
+    } catch (const CLI::ConfigError& error) {
+      throw UsageError(UnknownInFileText(error.what()));
     }
     FitPassedWeeks();
   }

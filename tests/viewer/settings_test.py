@@ -72,6 +72,7 @@ class Configuration(unittest.TestCase):
                 ("rows = 77\n", "--rows: expected a number from 1 to 50, not '77'"),
                 ("nope = 1\n", "unknown option 'nope'"),
                 ("rows 5\n", "unknown option 'rows 5'"),
+                ("[weeks]\nrows = 5\n", "unknown section 'weeks'"),
                 ('print-completion = "bash"\n', None)]:
             self.configure(text)
             result = run(XDG_CONFIG_HOME=self.folder.name)
