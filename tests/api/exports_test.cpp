@@ -135,7 +135,7 @@ TEST_F(Exports, CellsHaveTheirEightFields) {
 }
 
 TEST_F(Exports, SpansHaveTheirThreeFields) {
-  SetStartDayOfWeek(6);
+  SetStartDayOfWeek(eCalendarWeekSaturday);
   SetShowMonthInterval(false);
   Build();
   EXPECT_EQ(GetWeekNumberCount(), 5);

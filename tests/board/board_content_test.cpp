@@ -24,6 +24,9 @@ namespace {
 
 constexpr int kMin = std::numeric_limits<int>::min();
 constexpr int kMax = std::numeric_limits<int>::max();
+constexpr EWeekNumberCalc kIso = eWeekNumberCalcIso8601;
+constexpr EWeekNumberCalc kFromJan1 = eWeekNumberCalcFromJan1;
+constexpr EWeekNumberCalc kFromStart = eWeekNumberCalcFromStartWeek;
 constexpr PageDirection kDirections[] = {PageDirection::kNone, PageDirection::kBackward,
                                          PageDirection::kForward};
 
@@ -33,19 +36,19 @@ std::string Text(const CCalendarItem& item) {
   const CCalendarSolarDate& date = item.GetDate();
   const std::string day = std::to_string(date.day);
   switch (item.GetType()) {
-    case 1:
+    case eCalendarItemEmpty:
       return "-";
-    case 2:
+    case eCalendarItemBlank:
       return date.year != 0 ? "(" + day + ")" : ".";
-    case 3:
+    case eCalendarItemDay:
       return day;
-    case 4:
+    case eCalendarItemToday:
       return day + "*";
-    case 5:
+    case eCalendarItemBreakDay:
       return day + "b";
-    case 6:
+    case eCalendarItemTodayBreakDay:
       return day + "*b";
-    case 7:
+    case eCalendarItemMonthTitle:
       return "[" + std::to_string(date.month) + "]";
     default:
       return "?";
@@ -251,8 +254,8 @@ TEST_F(BoardContent, RollingTailWithAPageDirectionHasNoRows) {
     EXPECT_EQ(Build(2024, 3, 13, direction), Texts{});
     EXPECT_FALSE(m_board.IsTodayInBoard());
     EXPECT_EQ(m_board.Built().content.todayColumn, -1);
-    EXPECT_EQ(m_board.Built().content.first.GetType(), 1);
-    EXPECT_EQ(m_board.Built().content.last.GetType(), 1);
+    EXPECT_EQ(m_board.Built().content.first.GetType(), eCalendarItemEmpty);
+    EXPECT_EQ(m_board.Built().content.last.GetType(), eCalendarItemEmpty);
   }
 }
 
@@ -376,8 +379,8 @@ TEST_F(BoardContent, AnyOtherModeIsAnEmptyBoard) {
 
 TEST_F(BoardContent, KindsOfDays) {
   m_board.SetDispMonth(eDispMonthDayStrip);
-  m_board.SetBreakDayOfWeek(3, true);
-  m_board.SetBreakDayOfWeek(0, false);
+  m_board.SetBreakDayOfWeek(eCalendarWeekWednesday, true);
+  m_board.SetBreakDayOfWeek(eCalendarWeekSunday, false);
   SetToday(2024, 3, 13);
   EXPECT_EQ(Build(2024, 3, 13), Texts{"11 | 10 11 12 13*b 14 15 16b"});
   SetToday(2024, 3, 11);
@@ -466,10 +469,10 @@ TEST_F(BoardContent, EndsOfTheYearsRunOverIntoTheNextOnes) {
 }
 
 TEST_F(BoardContent, RowWeekNumberIsThatOfItsLastDatedCell) {
-  m_board.SetStartDayOfWeek(0);
+  m_board.SetStartDayOfWeek(eCalendarWeekSunday);
   EXPECT_EQ(Build(2024, 3, 13)[0], "10 | 3b 4 5 6 7 8 9b");
   EXPECT_EQ(m_board.Cell(0, 0).GetWeekNumber(), 9);
-  m_board.SetStartDayOfWeek(1);
+  m_board.SetStartDayOfWeek(eCalendarWeekMonday);
   EXPECT_EQ(Build(2024, 2, 28)[1], "9 | 26 27 28 29 [3] . .");
 }
 
@@ -498,49 +501,51 @@ class ShownWeek : public BoardContent {
 };
 
 TEST_F(ShownWeek, StartWeekReads1AndEarlierWeeksStay) {
-  EXPECT_EQ(Of(2024, 3, 4, 1, 1), 10);
-  EXPECT_EQ(Of(2024, 3, 4, 10, 1), 1);
-  EXPECT_EQ(Of(2024, 3, 11, 10, 1), 2);
-  EXPECT_EQ(Of(2024, 3, 3, 10, 1), 9);  // the week before
-  EXPECT_EQ(Of(2024, 3, 4, 0, 1), 11);
-  EXPECT_EQ(Of(2024, 3, 4, -3, 1), 14);
-  EXPECT_EQ(Of(2024, 3, 4, kMax, 1), 10);
-  EXPECT_EQ(Of(2024, 3, 4, kMin, 1), -2147483637);  // 10 + 1 + 2^31 wraps
+  EXPECT_EQ(Of(2024, 3, 4, 1, kIso), 10);
+  EXPECT_EQ(Of(2024, 3, 4, 10, kIso), 1);
+  EXPECT_EQ(Of(2024, 3, 11, 10, kIso), 2);
+  EXPECT_EQ(Of(2024, 3, 3, 10, kIso), 9);  // the week before
+  EXPECT_EQ(Of(2024, 3, 4, 0, kIso), 11);
+  EXPECT_EQ(Of(2024, 3, 4, -3, kIso), 14);
+  EXPECT_EQ(Of(2024, 3, 4, kMax, kIso), 10);
+  EXPECT_EQ(Of(2024, 3, 4, kMin, kIso), -2147483637);  // 10 + 1 + 2^31 wraps
 }
 
 TEST_F(ShownWeek, WeeksOfTheNextYearGoOnUnderType2) {
   // 31 December 2025 is week 53, counted from 1 January.
-  EXPECT_EQ(Of(2025, 1, 1, 36, 2), 18);
-  EXPECT_EQ(Of(2024, 12, 31, 36, 2), 18);  // no added 1 after the turn of the year: week 18 again
-  EXPECT_EQ(Of(2024, 12, 29, 36, 2), 17);
-  EXPECT_EQ(Of(2025, 2, 2, 36, 2), 22);  // week 5 lies more than 30 weeks before week 36
-  EXPECT_EQ(Of(2025, 2, 3, 36, 2), 6);   // week 6 does not
-  EXPECT_EQ(Of(2025, 2, 3, 37, 2), 22);
-  EXPECT_EQ(Of(2025, 1, 1, 31, 2), 1);  // 31 - 30 is not above week 1
-  EXPECT_EQ(Of(2025, 1, 1, 32, 2), 22);
-  EXPECT_EQ(Of(2025, 9, 1, 36, 2), 1);  // week 36
+  EXPECT_EQ(Of(2025, 1, 1, 36, kFromStart), 18);
+  EXPECT_EQ(Of(2024, 12, 31, 36, kFromStart),
+            18);  // no added 1 after the turn of the year: week 18 again
+  EXPECT_EQ(Of(2024, 12, 29, 36, kFromStart), 17);
+  EXPECT_EQ(Of(2025, 2, 2, 36, kFromStart), 22);  // week 5 lies more than 30 weeks before week 36
+  EXPECT_EQ(Of(2025, 2, 3, 36, kFromStart), 6);   // week 6 does not
+  EXPECT_EQ(Of(2025, 2, 3, 37, kFromStart), 22);
+  EXPECT_EQ(Of(2025, 1, 1, 31, kFromStart), 1);  // 31 - 30 is not above week 1
+  EXPECT_EQ(Of(2025, 1, 1, 32, kFromStart), 22);
+  EXPECT_EQ(Of(2025, 9, 1, 36, kFromStart), 1);  // week 36
 }
 
 TEST_F(ShownWeek, OnlyTheYearAfterTodaysGoesOnAndUnderNoOtherType) {
   for (const int year : {2023, 2024, 2026}) {
-    EXPECT_EQ(Of(year, 1, 1, 36, 2), 1) << year;
+    EXPECT_EQ(Of(year, 1, 1, 36, kFromStart), 1) << year;
   }
-  for (const int type : {0, 1, 3, -1}) {
+  for (const int type : {kFromJan1, kIso, 3, -1}) {
     EXPECT_EQ(Of(2025, 1, 1, 36, type), 1) << type;
   }
   SetToday(2025, 1, 1);
-  EXPECT_EQ(Of(2025, 1, 1, 36, 2), 1);
-  EXPECT_EQ(Of(2026, 1, 1, 36, 2), 18);
+  EXPECT_EQ(Of(2025, 1, 1, 36, kFromStart), 1);
+  EXPECT_EQ(Of(2026, 1, 1, 36, kFromStart), 18);
 }
 
 TEST_F(ShownWeek, LastWeekIsThatOfTheCellsOwnYear) {
   SetToday(2011, 11, 20);
-  EXPECT_EQ(Of(2012, 1, 2, 40, 2), 54 + 2 - 40);  // 2012 ends with week 54, 2011 with week 53
+  EXPECT_EQ(Of(2012, 1, 2, 40, kFromStart),
+            54 + 2 - 40);  // 2012 ends with week 54, 2011 with week 53
 }
 
 TEST_F(ShownWeek, StartWeekOfMinus1OrLessNumbersUndatedCells) {
   const auto undated = [this](int startWeek) {
-    Of(2024, 3, 4, startWeek, 1);
+    Of(2024, 3, 4, startWeek, kIso);
     return m_board.Cell(0, 1).GetWeekNumber();
   };
   EXPECT_EQ(undated(1), -1);
@@ -561,9 +566,9 @@ TEST_F(ShownWeek, UndatedCellsThatAreNumberedTakePartInTheSpans) {
 
 // 53 + 6 - 60: a number that says that there is none.
 TEST_F(ShownWeek, NumberThatComesOutAsMinus1IsNoneForTheRow) {
-  EXPECT_EQ(Of(2025, 2, 5, 60, 2), -1);
+  EXPECT_EQ(Of(2025, 2, 5, 60, kFromStart), -1);
   EXPECT_EQ(m_board.Rows()[0].weekNumber, 0);
-  EXPECT_EQ(Of(2025, 1, 29, 60, 2), -2);
+  EXPECT_EQ(Of(2025, 1, 29, 60, kFromStart), -2);
   EXPECT_EQ(m_board.Rows()[0].weekNumber, -2);
 }
 
@@ -638,7 +643,7 @@ TEST_F(BoardContent, BuildFillsTheRowsThatItIsGiven) {
 
 // Boards over the changes of the clocks of every kind of zone are the boards of UTC.
 TEST_F(BoardContent, ChangesOfTheClocksMoveNoDay) {
-  for (const int mode : {1, 2, 3, 4}) {
+  for (EDispMonth mode = eDispMonthRollingWeeks; mode <= eDispMonthDayStrip; ++mode) {
     m_board.SetDispMonth(mode);
     for (const int month : {3, 4, 9, 10, 11}) {
       for (const int day : {1, 15, 31}) {

@@ -46,8 +46,8 @@ TEST(CalendarItem, CopyOfADateKeepsEverythingElseAndCopyOfACellNothing) {
 
 TEST(CalendarItem, TextPadsTheYearToFourDigitsAndMonthAndDayToTwo) {
   EXPECT_EQ(Item(eCalendarItemMonthTitle, {0, 3, 1, 0}).GetDay(), "(7)0000-03-01");
-  EXPECT_EQ(Item(3, {5, 1, 2, 0}).GetDay(), "(3)0005-01-02");
-  EXPECT_EQ(Item(3, {12345, 123, 456, 0}).GetDay(), "(3)12345-123-456");
+  EXPECT_EQ(Item(eCalendarItemDay, {5, 1, 2, 0}).GetDay(), "(3)0005-01-02");
+  EXPECT_EQ(Item(eCalendarItemDay, {12345, 123, 456, 0}).GetDay(), "(3)12345-123-456");
   // The sign stands in front of the padded digits.
   EXPECT_EQ(Item(-12, {-5, -1, -2, 0}).GetDay(), "(-12)-0005--01--02");
   const std::string longest = Item(kMin, {kMin, kMin, kMin, 0}).GetDay();

@@ -21,6 +21,9 @@ namespace {
 
 constexpr int kMin = std::numeric_limits<int>::min();
 constexpr int kMax = std::numeric_limits<int>::max();
+constexpr EWeekNumberCalc kIso = eWeekNumberCalcIso8601;
+constexpr EWeekNumberCalc kFromJan1 = eWeekNumberCalcFromJan1;
+constexpr EWeekNumberCalc kFromStart = eWeekNumberCalcFromStartWeek;
 
 struct WeekCase {
   int year, month, day;
@@ -47,8 +50,9 @@ TEST(WeekNumber, DatesUnderBothRules) {
   CCalendarWeekNumber weeks;
   for (const WeekCase& c : kWeekCases) {
     SCOPED_TRACE(testing::Message() << c.year << '-' << c.month << '-' << c.day);
-    EXPECT_EQ(weeks.GetWeekNumber(c.year, c.month, c.day, 1), c.iso);
-    for (const int type : {0, 2, 3, -1, kMin, kMax}) {  // every other type counts from 1 January
+    EXPECT_EQ(weeks.GetWeekNumber(c.year, c.month, c.day, kIso), c.iso);
+    for (const int type :
+         {kFromJan1, kFromStart, 3, -1, kMin, kMax}) {  // every other type counts from 1 January
       EXPECT_EQ(weeks.GetWeekNumber(c.year, c.month, c.day, type), c.fromJan1) << type;
     }
   }
@@ -85,7 +89,7 @@ TEST(WeekNumber, RangeOfDatesHasBothEnds) {
                      {2024, 5, 0, false},       {2024, 5, 32, false},     {2024, -5, -5, false},
                      {kMin, kMin, kMin, false}, {kMax, kMax, kMax, false}};
   for (const auto& c : cases) {
-    for (const int type : {0, 1, 2, 0}) {
+    for (const int type : {kFromJan1, kIso, kFromStart, kFromJan1}) {
       const int week = weeks.GetWeekNumber(c.year, c.month, c.day, type);
       EXPECT_EQ(week != -1, c.accepted) << c.year << '-' << c.month << '-' << c.day << ' ' << type;
     }
@@ -96,26 +100,27 @@ TEST(WeekNumber, RangeOfDatesHasBothEnds) {
 // Mode 0 counts seconds: a spring day of 23 hours makes every later date a day short.
 TEST(WeekNumber, DaylightSavingTakesADayFromTheCountFrom1January) {
   CCalendarWeekNumber inUtc;
-  EXPECT_EQ(inUtc.GetWeekNumber(2024, 4, 1, 0), 14);
+  EXPECT_EQ(inUtc.GetWeekNumber(2024, 4, 1, kFromJan1), 14);
 
   const ScopedZone berlin("Europe/Berlin");  // from 31 March 2024 on
   CCalendarWeekNumber weeks;
-  EXPECT_EQ(weeks.GetWeekNumber(2024, 3, 31, 0), 13);  // a Sunday; its midnight comes before
-  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, 0), 13);   // a Monday
-  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 2, 0), 14);
-  EXPECT_EQ(weeks.GetWeekNumber(2024, 10, 28, 0), 44);  // a Monday in winter time again
-  EXPECT_EQ(weeks.GetWeekNumber(2012, 12, 31, 0), 54);
-  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, 1), 14);  // ISO weeks do not count seconds
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 3, 31, kFromJan1),
+            13);                                              // a Sunday; its midnight comes before
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, kFromJan1), 13);  // a Monday
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 2, kFromJan1), 14);
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 10, 28, kFromJan1), 44);  // a Monday in winter time again
+  EXPECT_EQ(weeks.GetWeekNumber(2012, 12, 31, kFromJan1), 54);
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, kIso), 14);  // ISO weeks do not count seconds
 
   const ScopedZone sydney("Australia/Sydney");  // across the new year: an hour more on 8 April
   CCalendarWeekNumber inSydney;
-  EXPECT_EQ(inSydney.GetWeekNumber(2024, 4, 8, 0), 15);
-  EXPECT_EQ(inSydney.GetWeekNumber(2012, 12, 31, 0), 54);
+  EXPECT_EQ(inSydney.GetWeekNumber(2024, 4, 8, kFromJan1), 15);
+  EXPECT_EQ(inSydney.GetWeekNumber(2012, 12, 31, kFromJan1), 54);
 }
 
 TEST(WeekNumber, DaysThatAShortMonthLacksCountOn) {
   CCalendarWeekNumber weeks;
-  for (const int type : {0, 1}) {
+  for (const int type : {kFromJan1, kIso}) {
     for (int year = 1900; year <= 2099; ++year) {
       const bool leap = almara::test::IsLeapYear(year);
       EXPECT_EQ(weeks.GetWeekNumber(year, 2, 30, type),
@@ -128,12 +133,12 @@ TEST(WeekNumber, DaysThatAShortMonthLacksCountOn) {
 // An answer is kept for good, by date and type: a new zone shows which ones are computed.
 TEST(WeekNumber, AnswerIsKeptByDateAndType) {
   CCalendarWeekNumber weeks;
-  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, 0), 14);
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, kFromJan1), 14);
   const ScopedZone berlin("Europe/Berlin");
-  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, 0), 14);
-  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, 2), 13);
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, kFromJan1), 14);
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, kFromStart), 13);
   EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 1, 5), 13);
-  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 8, 0), 14);  // another date
+  EXPECT_EQ(weeks.GetWeekNumber(2024, 4, 8, kFromJan1), 14);  // another date
 }
 
 TEST(WeekNumber2, IsOneAboveIsoAfterTheFirstPartialWeek) {

@@ -67,8 +67,8 @@ class WeekSpans : public testing::Test {
     return almara::JoinWeeks(m_options, rows, visible);
   }
 
-  void SundayFirst() { m_options.SetStartDayOfWeek(0); }
-  void SaturdayFirst() { m_options.SetStartDayOfWeek(6); }
+  void SundayFirst() { m_options.SetStartDayOfWeek(eCalendarWeekSunday); }
+  void SaturdayFirst() { m_options.SetStartDayOfWeek(eCalendarWeekSaturday); }
 
   CCalendarConfig m_options;
 };
@@ -188,7 +188,7 @@ TEST_F(WeekSpans, FirstWeekOfANewYearWinsInOneRow) {
   EXPECT_EQ(Of({{52, 52, 1, 1, 1, 1, 1}}), (Spans{{1, 2, 1, 5, 0, 1}}));
   SundayFirst();
   EXPECT_EQ(Of({{52, 1, 1, 1, 1, 1, 1}}), (Spans{{1, 1, 0, 6, 0, 1}}));
-  m_options.SetWeekNumberCalcType(0);
+  m_options.SetWeekNumberCalcType(eWeekNumberCalcFromJan1);
   EXPECT_EQ(Of({{53, 1, 1, 1, 1, 1, 1}}), (Spans{{1, 1, 1, 6, 0, 1}}));
 }
 

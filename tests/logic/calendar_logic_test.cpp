@@ -74,8 +74,10 @@ struct LanguageCase {
   int zone;  // 0 where the language sets none
 };
 
-constexpr LanguageCase kLanguages[] = {{1, 8}, {2, 9}, {3, 0},  {4, 8},  {5, 0},    {7, 9},
-                                       {8, 0}, {0, 0}, {-1, 0}, {11, 0}, {kMin, 0}, {kMax, 0}};
+constexpr LanguageCase kLanguages[] = {
+    {eLanguageChs, 8}, {eLanguageKor, 9}, {eLanguageUsa, 0}, {eLanguageCht, 8},
+    {eLanguageRus, 0}, {eLanguageJpn, 9}, {eLanguageEng, 0}, {0, 0},
+    {-1, 0},           {11, 0},           {kMin, 0},         {kMax, 0}};
 
 TEST_F(Logic, LanguageSetsTheZoneOfFourRegions) {
   for (const LanguageCase& c : kLanguages) {
@@ -528,7 +530,7 @@ TEST_F(Logic, TraceStandsBeforeTheTextOfTheBoardWithoutALineEnd) {
 }
 
 TEST_F(Logic, EveryNavigationWritesTheBoardOnce) {
-  void (*const navigations[])(Board&) = {[](Board& b) { b.InitCalendarLogic(3); },
+  void (*const navigations[])(Board&) = {[](Board& b) { b.InitCalendarLogic(eLanguageUsa); },
                                          [](Board& b) { b.Build(); },
                                          [](Board& b) { b.GotoToday(); },
                                          [](Board& b) { b.GotoPreviousPage(); },
@@ -558,7 +560,7 @@ TEST_F(Logic, OptionsTakeEffectAtTheNextBuildAndWriteNothing) {
 }
 
 TEST_F(Logic, CellsAreAskedByVisibleRowAndColumn) {
-  m_engine.SetStartDayOfWeek(0);
+  m_engine.SetStartDayOfWeek(eCalendarWeekSunday);
   m_engine.SetShowBreakDayOfWeek(false);
   m_engine.GotoToday();
   const CCalendarItem item = m_engine.GetContentItem(1, 2);  // Wednesday, after the hidden Sunday
@@ -600,7 +602,7 @@ TEST_F(Logic, CellOutsideTheVisibleOnesIsADefaultCell) {
 // The entries after the visible columns are column 0.
 TEST_F(Logic, HeadingOfAColumnThatIsNotVisibleIsTheStartDay) {
   m_engine.SetShowBreakDayOfWeek(false);
-  m_engine.SetStartDayOfWeek(3);
+  m_engine.SetStartDayOfWeek(eCalendarWeekWednesday);
   m_engine.GotoToday();
   const int headings[] = {3, 4, 5, 1, 2, 3, 3};
   for (int column = 0; column < 7; ++column) {
@@ -696,12 +698,12 @@ TEST_F(Logic, MidnightAfterTheLastYearLeavesTheBoard) {
 TEST_F(Logic, MidnightPassesBetweenBuilds) {
   m_engine.GotoToday();
   SetToday(2024, 3, 14);
-  EXPECT_EQ(m_engine.GetContentItem(1, 2).GetType(), 4);
+  EXPECT_EQ(m_engine.GetContentItem(1, 2).GetType(), eCalendarItemToday);
   EXPECT_EQ(m_engine.GetToday().day, 14);
   m_engine.Build();
   EXPECT_EQ(Focus(), "2024-3-14");
-  EXPECT_EQ(m_engine.GetContentItem(1, 2).GetType(), 3);
-  EXPECT_EQ(m_engine.GetContentItem(1, 3).GetType(), 4);
+  EXPECT_EQ(m_engine.GetContentItem(1, 2).GetType(), eCalendarItemDay);
+  EXPECT_EQ(m_engine.GetContentItem(1, 3).GetType(), eCalendarItemToday);
 }
 
 }  // namespace
