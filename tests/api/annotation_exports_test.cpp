@@ -46,8 +46,8 @@ int AskUsa(int year, int month, int day) {
 
 TEST(EasterQueries, TheFirstOfAYearMissesEasterForGood) {
   EXPECT_TRUE(HoldsInFreshProcess([] {
-    return AskUsa(2024, 3, 31) == 0 && AskUsa(2024, 3, 31) == 0 && AskUsa(2024, 8, 20) == 0 &&
-           AskUsa(2024, 3, 31) == 0;
+    return AskUsa(2024, 3, 31) == eFestivalSolarNone && AskUsa(2024, 3, 31) == eFestivalSolarNone &&
+           AskUsa(2024, 8, 20) == eFestivalSolarNone && AskUsa(2024, 3, 31) == eFestivalSolarNone;
   }));
 }
 
@@ -56,7 +56,7 @@ TEST(EasterQueries, AKeptDateDoesNotBringItsYearBack) {
     AskUsa(2024, 8, 20);
     AskUsa(2025, 8, 20);
     AskUsa(2024, 8, 20);  // kept, so 2025 stays the last year worked out
-    return AskUsa(2024, 3, 31) == 0 && AskUsa(2025, 4, 20) == 0;
+    return AskUsa(2024, 3, 31) == eFestivalSolarNone && AskUsa(2025, 4, 20) == eFestivalSolarNone;
   }));
 }
 

@@ -70,9 +70,11 @@ TEST_F(AnnotationMemo, KeepsTheAnswerThatThereIsNone) {
   m_engine.CheckFestivalSolar(eLanguageChs, {2024, 1, 9, 0});
   m_engine.CheckFestivalLunar(eLanguageUsa, {2024, 1, 9, 0});
   m_engine.Check24Sekki({2024, 1, 9, 0});
-  EXPECT_EQ(*m_engine.m_mapFestivalSolarCache.Find(eLanguageChs, {2024, 1, 9, 0}), 0);
-  EXPECT_EQ(*m_engine.m_mapFestivalLunarCache.Find(eLanguageUsa, {2024, 1, 9, 0}), 0);
-  EXPECT_EQ(*m_engine.m_map24SekkiCache.Find(0, {2024, 1, 9, 0}), -1);
+  EXPECT_EQ(*m_engine.m_mapFestivalSolarCache.Find(eLanguageChs, {2024, 1, 9, 0}),
+            eFestivalSolarNone);
+  EXPECT_EQ(*m_engine.m_mapFestivalLunarCache.Find(eLanguageUsa, {2024, 1, 9, 0}),
+            eFestivalLunarNone);
+  EXPECT_EQ(*m_engine.m_map24SekkiCache.Find(0, {2024, 1, 9, 0}), eSekkiNone);
 }
 
 TEST_F(AnnotationMemo, KeepsEveryInt) {
@@ -116,7 +118,9 @@ TEST_F(AnnotationMemo, ADayOfMonthTwelveKeepsTheLunarDateOfTheNextDay) {
 }
 
 TEST_F(AnnotationMemo, OtherLanguagesDoNotAskForLunarDates) {
-  for (const ELanguage language : {0, 3, 5, 6, 7, 8, 10, 11}) {
+  constexpr ELanguage kOthers[] = {
+      0, eLanguageUsa, eLanguageRus, eLanguageDeu, eLanguageJpn, eLanguageEng, eLanguageTha, 11};
+  for (const ELanguage language : kOthers) {
     m_engine.CheckFestivalLunar(language, {2024, 2, 10, 0});
   }
   EXPECT_EQ(m_engine.m_mapLunarDateCache.Size(), 0U);

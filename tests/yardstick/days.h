@@ -8,19 +8,15 @@
 #include <random>
 #include <vector>
 
+#include "support/civil.h"
+
 namespace almara::test {
 
 // Every day from 1 January of firstYear to 31 December of lastYear, in order.
 inline std::vector<CCalendarSolarDate> DaysOfYears(int firstYear, int lastYear) {
   std::vector<CCalendarSolarDate> days;
-  for (int year = firstYear; year <= lastYear; ++year) {
-    const bool leap = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-    const int lengths[] = {31, leap ? 29 : 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    for (int month = 1; month <= 12; ++month) {
-      for (int day = 1; day <= lengths[month - 1]; ++day) {
-        days.push_back({year, month, day, 0});
-      }
-    }
+  for (Civil day{firstYear, 1, 1}; day.year <= lastYear; day = NextDay(day)) {
+    days.push_back({day.year, day.month, day.day, 0});
   }
   return days;
 }
