@@ -9,6 +9,7 @@
 namespace {
 
 CCalendarSolarDate WithoutDayOfWeek(CCalendarSolarDate date) {
+  // MUTATE_EXCL: no look-up reads the day of the week.
   return {date.year, date.month, date.day, 0};
 }
 

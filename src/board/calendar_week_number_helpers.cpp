@@ -29,6 +29,7 @@ int CCalendarWeekNumber::_GetWeekNumber2(int year, int month, int day) const {
   }
   const int newYear = almara::DayOfWeekOfNewYear(year);
   const bool startsLate = newYear == eCalendarWeekSunday || newYear >= eCalendarWeekFriday;
+  // MUTATE_EXCL: January has week 52, 53, or 5 at most.
   const bool ofYearBefore = month == 1 && week > 51;
   const bool ofYearAfter = month == 12 && week == 1;
   return startsLate && !ofYearBefore && !ofYearAfter ? week + 1 : week;
@@ -75,6 +76,7 @@ int CCalendarWeekNumber::_GetDayAndMonthFromWeekInYear(int* year, int week, int*
     *year = WrapAdd(*year, 1);
   }
   const int jan1 = almara::DayOfWeekOfNewYear(*year);
+  // MUTATE_EXCL: t[0] is 0.
   const int offset = jan1 >= 0 ? t[jan1] : 0;  // a year before 1 has no weekday here
   int dayOfYear = WrapAdd(WrapMultiply(7, week), offset - 6);
   if (dayOfYear > _GetDaysInYear(*year)) {

@@ -37,6 +37,7 @@ char* AppendDecimal(char* out, std::int32_t value, int minDigits) {
 }
 
 char* AppendDate(char* out, std::int32_t year, std::int32_t month, std::int32_t day) {
+  // MUTATE_EXCL: both branches write the same text.
   if (IsWithin(year, 9999) && IsWithin(month, 99) && IsWithin(day, 99)) {  // all that boards show
     out = AppendTwoDigits(AppendTwoDigits(out, year / 100), year % 100);
     *out++ = '-';

@@ -7,6 +7,7 @@
 namespace almara {
 
 // Longest text that AppendDecimal writes for up to 11 digits.
+// MUTATE_EXCL: more room does no harm.
 constexpr int kMaxDecimalLength = 12;
 
 // Writes value in decimal with at least minDigits digits, zeroes in front, and a sign if it is

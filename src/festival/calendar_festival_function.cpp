@@ -12,6 +12,7 @@ using almara::DayCounting;
 
 namespace {
 
+// MUTATE_EXCL: any number that is no month will do.
 constexpr std::int32_t kNotComputed = -1;
 
 void Write(std::int32_t value, int* out) {
@@ -87,6 +88,7 @@ CCalendarSolarDate FridayBefore(CCalendarSolarDate date, DayCounting counting) {
 int CCalendarFestivalFunction::_GetDayByWeekNumberOfMonth(int year, int month, int n, int weekday,
                                                           DayCounting counting) {
   const int days = _GetMaxDaysOfSolarMonth(year, month);
+  // MUTATE_EXCL: a month has -1 or at least 28 days.
   if (days < 0) {
     return -1;
   }

@@ -30,10 +30,12 @@ constexpr SolarFestivalRule Weekday(int month, int nth, ECalendarWeek weekday,
 }
 
 constexpr SolarFestivalRule EasterSunday(EFestivalSolar code) {
+  // MUTATE_EXCL: the numbers of this kind are not read.
   return {code, RuleKind::kEasterSunday, 0, 0, 0, 0};
 }
 
 constexpr SolarFestivalRule GoodFriday(EFestivalSolar code) {
+  // MUTATE_EXCL: the numbers of this kind are not read.
   return {code, RuleKind::kGoodFriday, 0, 0, 0, 0};
 }
 
@@ -166,7 +168,9 @@ constexpr RuleList kEveryRegion(kCommonRules);
 struct MovableFeasts {
   int easterMonth = 0;
   int easterDay = 0;
+  // MUTATE_EXCL: always written over.
   int goodFridayMonth = 0;
+  // MUTATE_EXCL: always written over.
   int goodFridayDay = 0;
 };
 

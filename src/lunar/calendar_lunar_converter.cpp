@@ -31,6 +31,7 @@ int Write(const std::optional<almara::SunCrossing>& found, Out* out) {
 
 CCalendarLunarConverter::CCalendarLunarConverter() {
   for (const int month : {2, 3}) {
+    // MUTATE_EXCL: no other day is fixed.
     for (int day = 1; day <= 31; ++day) {
       if (const int lunarDay = almara::FixedLunarDay({2017, month, day, 0}); lunarDay != 0) {
         m_mapLunarDateCorrection[DateOf2017(month, day)] = DateOf2017(2, lunarDay);

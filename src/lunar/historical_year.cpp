@@ -48,6 +48,7 @@ double HistoricalDayNumber(double year, double month, double day) {
   if (days >= kFirstGregorianDay) {
     days -= 10;
   }
+  // MUTATE_EXCL: for 1601 there is nothing to add either way.
   if (year - 1 >= 1600) {
     const double x = year - 1 - 1600 + 0.1;
     days = days - std::floor(x / 100) + std::floor(x / 400);

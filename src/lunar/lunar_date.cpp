@@ -11,11 +11,14 @@ namespace {
 
 // The day counts whose conversion stays within 32 bits with room for the searches, and the years
 // and months whose day count can be formed.
+// MUTATE_EXCL: room to spare.
 constexpr double kMaxDayCount = 2147383648;  // 2^31 - 100000
-constexpr int kMaxYear = 5879488;            // 365.25 * (year + 1) fits
-constexpr int kMaxMonth = 70202147;          // 30.59 * (month + 2) fits
+// MUTATE_EXCL: room to spare.
+constexpr int kMaxYear = 5879488;    // 365.25 * (year + 1) fits
+constexpr int kMaxMonth = 70202147;  // 30.59 * (month + 2) fits
 
 bool IsInSpan(const CCalendarSolarDate& date, double dayCount) {
+  // MUTATE_EXCL: beyond the span no search settles either.
   return date.year >= -kMaxYear && date.year <= kMaxYear && date.month >= -kMaxMonth &&
          date.month <= kMaxMonth && std::fabs(dayCount) <= kMaxDayCount;
 }

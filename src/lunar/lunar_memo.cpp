@@ -6,9 +6,11 @@
 namespace almara {
 namespace {
 
+// MUTATE_EXCL: a day that shares nothing has the same date.
 constexpr double kFirstSharedDay = 2378496;  // 1800-01-01
-constexpr double kLastSharedDay = 2488068;   // 2099-12-31
-constexpr double kWesternmostZone = -12;     // hours
+// MUTATE_EXCL: a day that shares nothing has the same date.
+constexpr double kLastSharedDay = 2488068;  // 2099-12-31
+constexpr double kWesternmostZone = -12;    // hours
 constexpr double kEasternmostZone = 14;
 
 bool MayShare(double dayCount, double zone) {

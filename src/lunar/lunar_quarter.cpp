@@ -38,7 +38,9 @@ NewMoons FindNewMoons(double firstTerm, double zone) {
   for (std::size_t k = 1; k < moons.size(); ++k) {
     moons[k] = NewMoonBefore(moons[k - 1] + 30, zone);
     // The same new moon found again.
+    // MUTATE_EXCL: from 30 days after a new moon the next one is found.
     if (std::fabs(Truncated(moons[k - 1]) - Truncated(moons[k])) <= 26) {
+      // MUTATE_EXCL: as above, this is never reached.
       moons[k] = NewMoonBefore(moons[k - 1] + 35, zone);
     }
   }
