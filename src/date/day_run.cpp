@@ -73,6 +73,7 @@ bool IsNear(const CCalendarSolarDate& date, int offset) {
 CCalendarSolarDate StepDays(CCalendarSolarDate date, int days) {
   date.dayOfWeek = (date.dayOfWeek + days + kNearDays) % kDaysOfWeek;
   date.day += days;
+  // MUTATE_EXCL: the second loop brings back what the first takes too far.
   while (date.day < 1) {
     if (--date.month == 0) {
       date.month = kMonthsOfYear;

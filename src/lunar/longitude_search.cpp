@@ -44,6 +44,7 @@ struct SplitTime {
     const double rest = step - wholeStep;
     days -= wholeStep;
     fraction -= rest;
+    // MUTATE_EXCL: 0 and a whole day less are the same moment.
     if (fraction < 0) {
       fraction += 1;
       days -= 1;

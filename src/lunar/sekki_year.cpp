@@ -28,6 +28,7 @@ double StartOfYear(double year) { return HistoricalDayNumber(year, 1, 0) - 24515
 
 // Days from start, itself days from J2000.0, to the first crossing of a longitude after it.
 double CrossingAfter(double start, double longitudeAtStart, double longitude) {
+  // MUTATE_EXCL: the two are never equal.
   const double turn = longitudeAtStart > longitude ? -360 : 0;
   // The Sun moves more than 0.9 degrees a day, so this lies before the crossing.
   double day = std::floor((longitude - longitudeAtStart - turn) * 0.9);
