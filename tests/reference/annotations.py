@@ -14,13 +14,12 @@ when there was any difference.
 """
 
 import argparse
-import json
 import random
 import sys
 from datetime import date
 
-from comparison import CHILD_FLAG, child_main, compare
-from library import ANNOTATION_CALLS, Library
+from comparison import CHILD_FLAG, child_main, report
+from library import ANNOTATION_CALLS
 
 UNSET = "unset"
 ZONES = ("8", "9", "0", "-5", "-11", "14", "1", "7", "-3", UNSET)
@@ -147,7 +146,7 @@ def first_calls(zone, seed):
 
 def run_calls(task, recorder):
     """Initialise and make the calls of a task."""
-    for call in first_calls(task["zone"], task["seed"]):
+    for call in first_calls(task["zone_hours"], task["seed"]):
         recorder.begin(call)
         recorder.call(*call)
     for call in swept_calls(task) if "days" in task else random_calls(task):
@@ -162,7 +161,7 @@ def local_zone(zone):
 
 
 def tasks(arguments):
-    """Pairs of local zone and task."""
+    """Local zone, no today, and task of each sequence."""
     base = {"library": arguments.library, "length": arguments.length}
     zones = (arguments.zone,) if arguments.zone else ZONES
     for number in range(arguments.sequences):
@@ -170,11 +169,12 @@ def tasks(arguments):
         local = arguments.tz
         if local is None:
             local = LOCAL_ZONES[number % len(LOCAL_ZONES)] if zone in ("8", "9", UNSET) else None
-        yield local or local_zone(zone), base | {"zone": zone, "seed": f"{arguments.seed}/{number}"}
+        task = base | {"zone_hours": zone, "seed": f"{arguments.seed}/{number}"}
+        yield local or local_zone(zone), None, task
 
 
 def sweep_tasks(arguments):
-    """Pairs of local zone and task of a sweep, cut into pieces of some hundred days."""
+    """The same of a sweep, cut into pieces of some hundred days."""
     zone = arguments.zone or "8"
     local = arguments.tz or (local_zone(zone) if zone != UNSET else "UTC")
     languages = (arguments.language,) if arguments.language is not None else LANGUAGES
@@ -182,9 +182,9 @@ def sweep_tasks(arguments):
     last = date.fromisoformat(arguments.to).toordinal()
     piece = SWEPT_DAYS * arguments.stride
     for start in range(first, last + 1, piece):
-        yield local, {
+        yield local, None, {
             "library": arguments.library,
-            "zone": zone,
+            "zone_hours": zone,
             "seed": f"{arguments.seed}/{start}",
             "days": (start, min(start + piece, last + 1), arguments.stride),
             "languages": languages,
@@ -214,20 +214,8 @@ def parse_arguments():
 def main():
     """Run the tasks and report."""
     arguments = parse_arguments()
-    missing = [name for name in ANNOTATION_CALLS if not Library(arguments.library).has(name)]
-    if missing:
-        sys.exit(f"not exported: {', '.join(missing)}")
     swept = getattr(arguments, "from") is not None
-    calls = differences = count = 0
-    for local, task in (sweep_tasks if swept else tasks)(arguments):
-        result = compare(__file__, task, local)
-        count += 1
-        calls += result["calls"]
-        if result["difference"] is not None:
-            differences += 1
-            print(f"TZ={local} {json.dumps(task)}\n  {result['difference']}", flush=True)
-    print(f"{count} sequences, {calls} calls compared, {differences} with a difference")
-    return 1 if differences else 0
+    return report(__file__, (sweep_tasks if swept else tasks)(arguments))
 
 
 if __name__ == "__main__":

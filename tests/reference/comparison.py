@@ -155,6 +155,24 @@ def compare(script, task, zone, today=None):
     return {"calls": calls, "difference": None, "steps": None}
 
 
+def report(script, tasks):
+    """Compare each task of (zone, today or None, task), print the differences and count them.
+
+    What is printed of a task, saved in a file, runs it again with ``--replay``.
+    """
+    calls = count = differences = 0
+    for zone, today, task in tasks:
+        result = compare(script, task, zone, today)
+        count += 1
+        calls += result["calls"]
+        if result["difference"] is not None:
+            differences += 1
+            again = task | {"zone": zone, "today": today, "steps": result["steps"]}
+            print(f"{result['difference']}\n  {json.dumps(again)}", flush=True)
+    print(f"{count} sequences, {calls} calls compared, {differences} with a difference")
+    return 1 if differences else 0
+
+
 def explain(got, expected):
     """Tell the difference between two recorded calls."""
     name, arguments, result, text = expected or got

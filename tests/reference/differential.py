@@ -16,7 +16,7 @@ import json
 import random
 import sys
 
-from comparison import CHILD_FLAG, CLOCK_STEP, child_main, compare, set_clock
+from comparison import CHILD_FLAG, CLOCK_STEP, child_main, report, set_clock
 from library import HEADERS
 
 ZONES = (
@@ -301,43 +301,26 @@ def parse_arguments():
 
 
 def tasks(arguments):
-    """The sequences to run."""
+    """Zone, today and task of each sequence."""
     if arguments.replay:
         with open(arguments.replay, encoding="utf-8") as stream:
-            yield json.load(stream) | {"library": arguments.library}
+            task = json.load(stream) | {"library": arguments.library}
+        yield task["zone"], task["today"], task
         return
     pairs = list(circumstances(arguments))
     random.Random(arguments.seed).shuffle(pairs)
     count = arguments.sequences or len(pairs)
     for number, (zone, today) in enumerate(itertools.islice(itertools.cycle(pairs), count)):
-        yield {
+        yield zone, today, {
             "library": arguments.library,
             "seed": f"{arguments.seed}/{number}",
-            "zone": zone,
             "today": today,
             "length": arguments.length,
         }
-
-
-def main():
-    """Run the sequences and report."""
-    arguments = parse_arguments()
-    calls = sequences = differences = 0
-    for task in tasks(arguments):
-        result = compare(__file__, task, task["zone"], task["today"])
-        sequences += 1
-        calls += result["calls"]
-        if result["difference"] is not None:
-            differences += 1
-            print(f"sequence {task['seed']}, zone {task['zone']}, today {task['today']}")
-            print(f"  {result['difference']}")
-            print(f"  {json.dumps(task | {'steps': result['steps']})}", flush=True)
-    print(f"{sequences} sequences, {calls} calls compared, {differences} with a difference")
-    return 1 if differences else 0
 
 
 if __name__ == "__main__":
     if sys.argv[1:] == [CHILD_FLAG]:
         child_main(run_steps)
     else:
-        sys.exit(main())
+        sys.exit(report(__file__, tasks(parse_arguments())))

@@ -50,10 +50,6 @@ class Library:
         self._handle = ctypes.CDLL(os.path.abspath(path))
         self._functions = {}
 
-    def has(self, name):
-        """Whether the library exports a function."""
-        return hasattr(self._handle, name)
-
     def _function(self, name):
         if name not in self._functions:
             result, arguments, _ = CALLS[name]
