@@ -35,12 +35,17 @@ bool IsFree() {
 TEST(BoardLock, BuildWaitsForTheMutex) {
   const CaptureStdout output;
   Board board;
+  std::atomic<bool> started{false};
   std::atomic<bool> built{false};
   std::unique_lock<std::mutex> lock(mtx);
   std::thread builder([&] {
+    started = true;
     board._BuildCalendar(2024, 3, 13);
     built = true;
   });
+  while (!started) {
+    std::this_thread::yield();
+  }
   std::this_thread::sleep_for(std::chrono::milliseconds(50));
   EXPECT_FALSE(built);
   EXPECT_TRUE(board.Rows().empty());

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <cstdlib>
 #include <ctime>
 #include <limits>
 #include <tuple>
@@ -136,6 +137,14 @@ TEST(GetTodayDate, IsTheLocalDateWithItsWeekday) {
   today = GetToday();
   EXPECT_EQ(std::tie(today.year, today.month, today.day, today.week),
             std::make_tuple(2024, 3, 1, 5));
+}
+
+TEST(GetTodayDate, FollowsTheZoneOfAHostThatOnlySetsTheVariable) {
+  SetNow(1709251199);  // 2024-02-29 23:59:59 UTC
+  const ScopedZone zone("UTC");
+  EXPECT_EQ(GetToday().day, 29);
+  setenv("TZ", "Asia/Shanghai", 1);
+  EXPECT_EQ(GetToday().day, 1);
 }
 
 TEST(GetTodayDate, KeepsItsParametersWhenThereIsNoLocalTime) {
