@@ -43,6 +43,7 @@ if ((EUID != 0)); then
   chmod a-w "$copy/build/file"
   expect 1 "remove that folder" "$copy/scripts/test"
 fi
+rm -rf "$copy/build"
 # Without packages and the right to install them, what is missing is named.
 mkdir "$work/bin"
 printf '#!/bin/sh\nexit 1\n' | tee "$work/bin/dpkg-query" "$work/bin/sudo" "$work/bin/apt-get" >/dev/null
