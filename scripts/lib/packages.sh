@@ -16,10 +16,15 @@ declare -A PACKAGES=(
   [docs]="doxygen"
   [pictures]="faketime python3"
   [flutter]="clang cmake ninja-build pkg-config libgtk-3-dev libclang-dev python3 binutils"
-  [packages]="build-essential debhelper dpkg-dev fakeroot lintian debootstrap git python3"
+  [packages]="build-essential debhelper dpkg-dev fakeroot lintian git python3"
+  [root]="debootstrap python3 util-linux"
   [bench]="libbenchmark-dev libicu-dev libswe-dev python3 binutils util-linux"
   [analysis]="clang clang-tidy clang-format shellcheck python3 git"
 )
+
+# Before a command that needs root.
+AS_ROOT=()
+((EUID == 0)) || AS_ROOT=(sudo)
 
 # is_installed <package>. Node.js and npm may have come from elsewhere.
 is_installed() {
@@ -71,12 +76,8 @@ require_packages() {
   done
   ((${#missing[@]})) || return 0
   begin "Installing ${missing[*]}"
-  AS_ROOT=()
-  if ((EUID != 0)); then
-    AS_ROOT=(sudo)
-    sudo true || fail "not root, and sudo does not work here; have an administrator run:" \
-      "apt-get install ${missing[*]}"
-  fi
+  "${AS_ROOT[@]}" true || fail "not root, and sudo does not work here; have an administrator run:" \
+    "apt-get install ${missing[*]}"
   apt_get update
   apt_get install --no-install-recommends "${missing[@]}"
 }
