@@ -89,7 +89,7 @@ class Tree:
         shutil.copytree(ROOT, self.source, ignore=shutil.ignore_patterns("build", ".git"))
         self.log = open(WORK / f"log{number}", "w", encoding="utf-8")
         self.run("cmake", "-S", self.source, "-B", self.folder, "-G", "Ninja",
-                 "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS=-O1 -g0",
+                 "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS=-O1 -g0 -D_GLIBCXX_ASSERTIONS",
                  # A change of a source is compiled and linked once, not into each test program,
                  # and the internal ones run whole, as under an emulator.
                  "-DALMARA_OPEN_LIBRARY=ON", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON",

@@ -91,6 +91,7 @@ const LunarMonth& MonthOfDay(const LunarMonths& months, int day) {
       return months[k];
     }
     if (day < months[k].start) {
+      // MUTATE_EXCL: no day comes before the first of its months.
       return months[k > 0 ? k - 1 : 0];
     }
   }
