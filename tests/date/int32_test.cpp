@@ -44,6 +44,7 @@ TEST(Int32, TruncationIsTowardZero) {
   EXPECT_EQ(TruncateToInt32(1.999), 1);
   EXPECT_EQ(TruncateToInt32(-1.999), -1);
   EXPECT_EQ(TruncateToInt32(-0.5), 0);
+  EXPECT_EQ(TruncateToInt32(-2147483647.9), -2147483647);
 }
 
 TEST(Int32, TruncationThatDoesNotFitGivesTheLeastValue) {
