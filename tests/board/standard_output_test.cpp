@@ -51,7 +51,7 @@ class PipedOutput {
     fcntl(STDOUT_FILENO, F_SETPIPE_SZ, kPipeSize);
     m_readEnd = ends[0];
   }
-  ~PipedOutput() { close(m_readEnd); }
+  ~PipedOutput() { CloseReadEnd(); }
   PipedOutput(const PipedOutput&) = delete;
   PipedOutput& operator=(const PipedOutput&) = delete;
 
@@ -60,6 +60,11 @@ class PipedOutput {
     char text[kPipeSize];
     return {text,
             static_cast<std::size_t>(std::max<ssize_t>(0, read(m_readEnd, text, sizeof text)))};
+  }
+
+  void CloseReadEnd() {
+    close(m_readEnd);
+    m_readEnd = -1;
   }
 
  private:
@@ -99,11 +104,12 @@ TEST(StandardOutput, SlowReaderGetsEveryCharacter) {
 
 TEST(StandardOutput, ReaderThatDoesNotReadHoldsUpOneText) {
   const PipedOutput output;
-  WriteToStandardOutput(kWholePipe);
+  alarm(10);  // for a write that waits
   const auto start = std::chrono::steady_clock::now();
   for (int i = 0; i < 100; ++i) {
     WriteToStandardOutput(kLongText);
   }
+  alarm(0);
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
   EXPECT_EQ(output.Read(), kWholePipe);
   WriteToStandardOutput("reads again");
@@ -119,6 +125,15 @@ TEST(StandardOutput, HostsTextStaysWhereItIsUntilThereIsRoom) {
   EXPECT_EQ(output.Read(), kWholePipe);
   WriteToStandardOutput("engine");
   EXPECT_EQ(output.Read(), "host engine");
+}
+
+TEST(StandardOutput, HostsTextStaysTheHostsAfterTheReaderHasGone) {
+  PipedOutput output;
+  std::fputs("host", stdout);
+  output.CloseReadEnd();
+  WriteToStandardOutput("lost");
+  EXPECT_EQ(__fpending(stdout), 4U);
+  __fpurge(stdout);
 }
 
 TEST(StandardOutput, NonBlockingPipeStaysAsItIsAndLeavesNoError) {
