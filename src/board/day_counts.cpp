@@ -37,7 +37,7 @@ DayCounts CountDaysOfWholeMonth(const FocusDay& focus) {
 DayCounts CountDaysOfStrip(int columns, PageDirection direction) {
   DayCounts counts;
   counts.rows = 1;
-  switch (direction) {
+  switch (direction) {  // GCOVR_EXCL_BR_LINE: every direction has a case
     case PageDirection::kNone:
       counts.before = columns / 2 + columns % 2 - 1;  // left of the middle if the number is even
       counts.after = columns / 2;

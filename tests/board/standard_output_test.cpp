@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <stdio_ext.h>
 #include <sys/socket.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -83,19 +84,30 @@ TEST(StandardOutput, PipeHasTheTextAtOnceInOrderWithTheHosts) {
   EXPECT_EQ(__fpending(stdout), 0U);
 }
 
+// Also where signals interrupt the wait.
 TEST(StandardOutput, SlowReaderGetsEveryCharacter) {
   PipedOutput output;
   std::string text;
+  std::signal(SIGALRM, [](int) {});
   std::thread reader([&] {
+    sigset_t alarms;
+    sigemptyset(&alarms);
+    sigaddset(&alarms, SIGALRM);
+    pthread_sigmask(SIG_BLOCK, &alarms, nullptr);
     while (text.size() < kLongText.size() + 4) {
       std::this_thread::sleep_for(std::chrono::milliseconds(20));
       text += output.Read();
     }
   });
+  constexpr itimerval kEvery5Milliseconds{{0, 5000}, {0, 5000}};
+  setitimer(ITIMER_REAL, &kEvery5Milliseconds, nullptr);
   std::fputs("a", stdout);
   WriteToStandardOutput("b");
   WriteToStandardOutput(kLongText);
   WriteToStandardOutput("c");
+  constexpr itimerval kNever{};
+  setitimer(ITIMER_REAL, &kNever, nullptr);
+  std::signal(SIGALRM, SIG_DFL);
   std::fputs("d", stdout);
   std::fflush(stdout);
   reader.join();
