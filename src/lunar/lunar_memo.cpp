@@ -33,6 +33,7 @@ const LunarQuarter* LunarMemo::QuarterOf(double dayCount, double zone) {
   if (mayShare) {
     ForgetOtherZones(zone);
     const auto kept = m_quarters.upper_bound(dayCount);
+    // MUTATE_EXCL: worked out again, a quarter is the same.
     if (kept != m_quarters.end() && kept->second.terms.front().time <= dayCount) {
       return &kept->second;
     }
