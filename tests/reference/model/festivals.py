@@ -1,6 +1,10 @@
 # SPDX-License-Identifier: MIT
 """Festivals of the Gregorian and of the lunisolar calendar by language."""
 
+import re
+
+import interface
+
 from .date_services import SolarDate
 from .festival_rules import FestivalRules
 from .week_number import MONDAY, SATURDAY, SUNDAY, THURSDAY
@@ -9,114 +13,94 @@ NO_FESTIVAL = 0
 
 CHS, KOR, USA, CHT, RUS, DEU, JPN, ENG, VIT, THA = range(1, 11)
 
-THANKSGIVING = 1009
-INDEPENDENCE_DAY = 4000
-EASTER = 4003
-GOOD_FRIDAY = 4004
-LUNAR_EVE = 20009
+HEADERS = interface.read(*interface.ENGINE_HEADERS)
 
-COMMON_DAYS = {
-    (1, 1): 1000,
-    (3, 8): 1001,
-    (4, 1): 1002,
-    (4, 7): 1003,
-    (4, 22): 1004,
-    (5, 1): 1005,
-    (5, 31): 1007,
-    (10, 31): 1008,
-    (12, 24): 1010,
-    (12, 25): 1011,
-    (12, 31): 1012,
-}
+
+def codes(typedef):
+    """The codes of a typedef by their names without it."""
+    return {each.name[len(typedef) :]: each.value for each in HEADERS.constants_of(typedef)}
+
+
+SOLAR, LUNAR = codes("EFestivalSolar"), codes("EFestivalLunar")
+
+
+def days(text, names):
+    """The festivals by month and day of a text such as "1-1 NewYearsDay, 3-8 WomensDay"."""
+    found = re.findall(r"(\d+)-(\d+) (\w+)", text)
+    return {(int(month), int(day)): names[name] for month, day, name in found}
+
+
+COMMON_DAYS = days(
+    "1-1 NewYearsDay, 3-8 WomensDay, 4-1 AprilFoolsDay, 4-7 HealthDay, 4-22 EarthDay, "
+    "5-1 LabourDay, 5-31 NoTobaccoDay, 10-31 Halloween, 12-24 ChristmasEve, 12-25 ChristmasDay, "
+    "12-31 NewYearsEve",
+    SOLAR,
+)
 
 # Fixed month and day by language; they come before the weekday rules of the same month.
 FIXED_DAYS = {
-    CHS: {
-        (2, 14): 1014,
-        (3, 12): 1013,
-        (3, 15): 2000,
-        (5, 4): 2001,
-        (6, 1): 1006,
-        (7, 1): 2002,
-        (8, 1): 2003,
-        (9, 10): 1017,
-        (10, 1): 2004,
-    },
-    KOR: {
-        (3, 1): 3000,
-        (4, 5): 1013,
-        (5, 5): 3001,
-        (6, 6): 3002,
-        (8, 15): 3003,
-        (10, 3): 3004,
-        (10, 9): 3005,
-        (12, 25): 3006,
-    },
-    CHT: {
-        (2, 14): 1014,
-        (2, 28): 2005,
-        (3, 12): 1013,
-        (4, 4): 1006,
-        (8, 8): 1016,
-        (9, 28): 1017,
-        (10, 10): 2006,
-    },
-    RUS: {(6, 1): 1006},
-    DEU: {(6, 1): 1006, (9, 20): 1006},
-    JPN: {
-        (1, 1): 5000,
-        (2, 11): 5002,
-        (3, 3): 5003,
-        (4, 29): 5004,
-        (5, 3): 5005,
-        (5, 4): 5006,
-        (5, 5): 5007,
-        (11, 3): 5011,
-        (11, 23): 5012,
-        (12, 23): 5013,
-    },
-    ENG: {(7, 14): 1006},
-    VIT: {(1, 1): 1000, (4, 30): 6000, (5, 19): 6001, (6, 1): 1006, (9, 2): 6002},
+    CHS: (
+        "2-14 ValentinesDay, 3-12 ArborDay, 3-15 ConsumerRightsDay, 5-4 YouthDay, "
+        "6-1 ChildrensDay, 7-1 PartyFoundationDay, 8-1 ArmyDay, 9-10 TeachersDay, "
+        "10-1 NationalDayChs"
+    ),
+    KOR: (
+        "3-1 IndependenceMovementDay, 4-5 ArborDay, 5-5 ChildrensDayKor, 6-6 MemorialDayKor, "
+        "8-15 LiberationDayKor, 10-3 NationalFoundationDayKor, 10-9 HangulDay, 12-25 ChristmasKor"
+    ),
+    CHT: (
+        "2-14 ValentinesDay, 2-28 PeaceMemorialDay, 3-12 ArborDay, 4-4 ChildrensDay, "
+        "8-8 FathersDay, 9-28 TeachersDay, 10-10 NationalDayCht"
+    ),
+    RUS: "6-1 ChildrensDay",
+    DEU: "6-1 ChildrensDay, 9-20 ChildrensDay",
+    JPN: (
+        "1-1 Ganjitsu, 2-11 FoundationDayJpn, 3-3 Hinamatsuri, 4-29 ShowaDay, "
+        "5-3 ConstitutionDayJpn, 5-4 GreeneryDay, 5-5 ChildrensDayJpn, 11-3 CultureDay, "
+        "11-23 LabourThanksgivingDay, 12-23 EmperorsBirthday"
+    ),
+    ENG: "7-14 ChildrensDay",
+    VIT: (
+        "1-1 NewYearsDay, 4-30 ReunificationDay, 5-19 HoChiMinhsBirthday, 6-1 ChildrensDay, "
+        "9-2 NationalDayVit"
+    ),
 }
+FIXED_DAYS = {language: days(text, SOLAR) for language, text in FIXED_DAYS.items()}
 
 # Month: (n-th, weekday, festival).
 WEEKDAY_RULES = {
-    CHS: {5: (2, SUNDAY, 1015), 6: (3, SUNDAY, 1016)},
-    CHT: {5: (2, SUNDAY, 1015)},
-    USA: {1: (3, MONDAY, 4001), 6: (1, SUNDAY, 1006), 9: (1, MONDAY, 4002)},
-    JPN: {
-        1: (2, MONDAY, 5001),
-        7: (3, MONDAY, 5008),
-        9: (3, MONDAY, 5009),
-        10: (2, MONDAY, 5010),
+    CHS: {5: (2, SUNDAY, SOLAR["MothersDay"]), 6: (3, SUNDAY, SOLAR["FathersDay"])},
+    CHT: {5: (2, SUNDAY, SOLAR["MothersDay"])},
+    USA: {
+        1: (3, MONDAY, SOLAR["MartinLutherKingDay"]),
+        6: (1, SUNDAY, SOLAR["ChildrensDay"]),
+        9: (1, MONDAY, SOLAR["LaborDayUsa"]),
     },
-    THA: {1: (2, SATURDAY, 1006)},
+    JPN: {
+        1: (2, MONDAY, SOLAR["ComingOfAgeDay"]),
+        7: (3, MONDAY, SOLAR["MarineDay"]),
+        9: (3, MONDAY, SOLAR["RespectForTheAgedDay"]),
+        10: (2, MONDAY, SOLAR["SportsDay"]),
+    },
+    THA: {1: (2, SATURDAY, SOLAR["ChildrensDay"])},
 }
 
-CHINESE_LUNAR_DAYS = {
-    (1, 1): 20000,
-    (1, 15): 20001,
-    (5, 5): 20002,
-    (7, 7): 20003,
-    (7, 15): 20004,
-    (8, 15): 20005,
-    (9, 9): 20006,
-    (12, 8): 20007,
-}
 LUNAR_DAYS = {
-    CHS: CHINESE_LUNAR_DAYS | {(12, 23): 20008},
-    CHT: CHINESE_LUNAR_DAYS,
-    KOR: {(4, 8): 20010, (8, 15): 20005, (1, 1): 20000},
-    VIT: {
-        (1, 1): 20000,
-        (1, 15): 20001,
-        (3, 10): 20012,
-        (5, 5): 20002,
-        (7, 15): 20004,
-        (8, 15): 20005,
-        (9, 9): 20006,
-    },
+    CHS: (
+        "1-1 NewYearsDay, 1-15 LanternFestival, 5-5 DragonBoat, 7-7 DoubleSeventh, "
+        "7-15 GhostFestival, 8-15 MidAutumn, 9-9 DoubleNinth, 12-8 Laba, 12-23 LittleNewYear"
+    ),
+    CHT: (
+        "1-1 NewYearsDay, 1-15 LanternFestival, 5-5 DragonBoat, 7-7 DoubleSeventh, "
+        "7-15 GhostFestival, 8-15 MidAutumn, 9-9 DoubleNinth, 12-8 Laba"
+    ),
+    KOR: "1-1 NewYearsDay, 4-8 BuddhasBirthday, 8-15 MidAutumn",
+    VIT: (
+        "1-1 NewYearsDay, 1-15 LanternFestival, 3-10 HungKings, 5-5 DragonBoat, "
+        "7-15 GhostFestival, 8-15 MidAutumn, 9-9 DoubleNinth"
+    ),
 }
+LUNAR_DAYS = {language: days(text, LUNAR) for language, text in LUNAR_DAYS.items()}
 LANGUAGES_WITH_EVE = (CHS, CHT, VIT)
 
 
@@ -158,18 +142,18 @@ class Festivals:
         easter = self.rules.easter_if_asked_before(date.year) or (0, 0)
         good_friday = self.rules.good_friday(date.year)
         if (date.month, date.day) == (7, 4):
-            return INDEPENDENCE_DAY
+            return SOLAR["IndependenceDay"]
         rule = WEEKDAY_RULES[USA].get(date.month)
         if rule:
             return rule[2] if self.falls_on(date, rule) else NO_FESTIVAL
         if (date.month, date.day) == easter:
-            return EASTER
-        return GOOD_FRIDAY if (date.month, date.day) == good_friday else NO_FESTIVAL
+            return SOLAR["Easter"]
+        return SOLAR["GoodFriday"] if (date.month, date.day) == good_friday else NO_FESTIVAL
 
     def solar_common(self, date):
         """The festivals that all languages share."""
-        if date.month == 11 and self.falls_on(date, (4, THURSDAY, THANKSGIVING)):
-            return THANKSGIVING
+        if date.month == 11 and self.falls_on(date, (4, THURSDAY, None)):
+            return SOLAR["Thanksgiving"]
         return COMMON_DAYS.get((date.month, date.day), NO_FESTIVAL)
 
     def lunar(self, language, date):
@@ -185,5 +169,5 @@ class Festivals:
         if lunar.month == 12 and language in LANGUAGES_WITH_EVE:
             next_day = self.lunar_date(SolarDate(*self.dates.shifted(*date.ymd, 1)))
             if (next_day.month, next_day.day) == (1, 1):
-                return LUNAR_EVE
+                return LUNAR["NewYearsEve"]
         return NO_FESTIVAL
