@@ -165,17 +165,6 @@ TEST_F(Logic, BuildKeepsTheDirectionWhenTheFocusIsToday) {
   EXPECT_EQ(Direction(), kPlain);
 }
 
-TEST_F(Logic, GotoTodayDropsTheDirection) {
-  m_engine.GotoToday();
-  for (int page = 0; page < 2; ++page) {
-    m_engine.GotoPreviousPage();
-    ASSERT_EQ(Direction(), kBackward);
-    m_engine.GotoToday();
-    EXPECT_EQ(Direction(), kPlain);
-    EXPECT_EQ(Focus(), "2024-3-13");
-  }
-}
-
 TEST_F(Logic, RollingWeeksPageByTheDaysShown) {
   m_engine.GotoToday();
   ASSERT_EQ(First(), "2024-3-4");
@@ -247,16 +236,25 @@ TEST_F(Logic, MonthsPageToTheFirstOfTheMonth) {
   }
 }
 
-TEST_F(Logic, PagingByMonthsKeepsTheDirection) {
-  for (const int mode : {kTail, kMonth}) {
-    m_engine.SetDispMonth(mode);
+// Months are built on their own: there is no side from which to come.
+TEST_F(Logic, CommandsByMonthsKeepTheDirection) {
+  struct {
+    int mode;
+    void (*call)(Board&);
+  } const cases[] = {{kTail, [](Board& b) { b.GotoPreviousPage(); }},
+                     {kTail, [](Board& b) { b.GotoNextPage(); }},
+                     {kMonth, [](Board& b) { b.GotoPreviousPage(); }},
+                     {kMonth, [](Board& b) { b.GotoNextPage(); }},
+                     {kMonth, [](Board& b) { b.GotoSpecifiedDate(2024, 3, 13); }},
+                     {kMonth, [](Board& b) { b.GotoSpecifiedDate(2020, 1, 1); }},
+                     {kMonth, [](Board& b) { b.GotoTodayOffsetMonth(3); }}};
+  for (std::size_t i = 0; i < std::size(cases); ++i) {
+    m_engine.SetDispMonth(cases[i].mode);
     m_engine.GotoToday();
     for (const PageDirection direction : {kPlain, kBackward, kForward}) {
       m_engine.m_pageDirection = direction;
-      m_engine.GotoPreviousPage();
-      EXPECT_EQ(Direction(), direction);
-      m_engine.GotoNextPage();
-      EXPECT_EQ(Direction(), direction);
+      cases[i].call(m_engine);
+      EXPECT_EQ(Direction(), direction) << i;
     }
   }
 }
@@ -377,17 +375,6 @@ TEST_F(Logic, DatesAreComparedAsTheyAreGiven) {
   EXPECT_EQ(Last(), "2024-3-2");
 }
 
-TEST_F(Logic, DateInAWholeMonthKeepsTheDirection) {
-  m_engine.SetDispMonth(kMonth);
-  for (const PageDirection direction : {kPlain, kBackward, kForward}) {
-    m_engine.m_pageDirection = direction;
-    m_engine.GotoSpecifiedDate(2024, 3, 13);
-    EXPECT_EQ(Direction(), direction);
-    m_engine.GotoSpecifiedDate(2020, 1, 1);
-    EXPECT_EQ(Direction(), direction);
-  }
-}
-
 TEST_F(Logic, DateInARollingTailSetsTheDirection) {
   m_engine.SetDispMonth(kTail);
   m_engine.GotoToday();
@@ -482,15 +469,6 @@ TEST_F(Logic, OffsetOfMonthsKeepsTheDayOrTakesTheMonthsLast) {
     m_engine.GotoTodayOffsetMonth(c.offset);
     EXPECT_EQ(Trace(), c.date);
     EXPECT_EQ(Focus(), c.date);
-  }
-}
-
-TEST_F(Logic, OffsetOfMonthsKeepsTheDirection) {
-  m_engine.SetDispMonth(kMonth);
-  for (const PageDirection direction : {kPlain, kBackward, kForward}) {
-    m_engine.m_pageDirection = direction;
-    m_engine.GotoTodayOffsetMonth(3);
-    EXPECT_EQ(Direction(), direction);
   }
 }
 
