@@ -7,6 +7,8 @@
 
 #include <memory>
 
+namespace almara::test {
+
 // ICU's Chinese calendar, asked for the same fields as the engine's lunar date.
 class IcuChineseCalendar {
  public:
@@ -46,5 +48,7 @@ class IcuChineseCalendar {
   std::unique_ptr<icu::Calendar> m_calendar;
   std::unique_ptr<icu::Calendar> m_gregorian;
 };
+
+}  // namespace almara::test
 
 #endif  // ALMARA_BENCHMARKS_ICU_CHINESE_CALENDAR_H_

@@ -7,6 +7,8 @@
 
 #include <cstdio>
 
+namespace almara::test {
+
 // Sends the standard output, where boards are dumped, to /dev/null for the life of the object.
 class SilentOutput {
  public:
@@ -27,5 +29,7 @@ class SilentOutput {
  private:
   int m_saved = dup(STDOUT_FILENO);
 };
+
+}  // namespace almara::test
 
 #endif  // ALMARA_BENCHMARKS_SILENT_OUTPUT_H_

@@ -11,6 +11,8 @@
 #include "icu_chinese_calendar.h"
 #include "yardstick/days.h"
 
+using almara::test::IcuChineseCalendar;
+
 namespace {
 
 // A prime number of days, so that a round through them never keeps step with anything.

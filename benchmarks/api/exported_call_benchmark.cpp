@@ -11,6 +11,8 @@
 
 #include "silent_output.h"
 
+using almara::test::SilentOutput;
+
 namespace {
 
 constexpr CCalendarSolarDate kDate{2024, 2, 10, 0};

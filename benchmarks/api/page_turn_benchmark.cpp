@@ -11,6 +11,9 @@
 #include "logic/calendar_logic.h"
 #include "silent_output.h"
 
+using almara::test::IcuChineseCalendar;
+using almara::test::SilentOutput;
+
 namespace {
 
 constexpr int kRows = 6;

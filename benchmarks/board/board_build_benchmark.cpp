@@ -10,6 +10,8 @@
 #include "board/calendar_logic_build.h"
 #include "silent_output.h"
 
+using almara::test::SilentOutput;
+
 namespace {
 
 // A day in the middle of a month that does not begin on a Monday, so that every kind of cell
@@ -41,7 +43,7 @@ void BoardBuild(benchmark::State& state) {
     board.Build();
   }
 }
-BENCHMARK(BoardBuild)->DenseRange(1, 4);
+BENCHMARK(BoardBuild)->DenseRange(eDispMonthRollingWeeks, eDispMonthDayStrip);
 
 // The board alone, without its text on the standard output.
 void UnprintedBoardBuild(benchmark::State& state, almara::DayCounting counting) {
@@ -53,8 +55,9 @@ void UnprintedBoardBuild(benchmark::State& state, almara::DayCounting counting) 
   }
 }
 BENCHMARK_CAPTURE(UnprintedBoardBuild, local_time, almara::DayCounting::kLocalTime)
-    ->DenseRange(1, 4);
-BENCHMARK_CAPTURE(UnprintedBoardBuild, civil, almara::DayCounting::kCivil)->DenseRange(1, 4);
+    ->DenseRange(eDispMonthRollingWeeks, eDispMonthDayStrip);
+BENCHMARK_CAPTURE(UnprintedBoardBuild, civil, almara::DayCounting::kCivil)
+    ->DenseRange(eDispMonthRollingWeeks, eDispMonthDayStrip);
 
 void BoardTimeServiceCalls(benchmark::State& state) {
   const SilentOutput silent;
@@ -74,6 +77,6 @@ void BoardTimeServiceCalls(benchmark::State& state) {
     }
   }
 }
-BENCHMARK(BoardTimeServiceCalls)->DenseRange(1, 4);
+BENCHMARK(BoardTimeServiceCalls)->DenseRange(eDispMonthRollingWeeks, eDispMonthDayStrip);
 
 }  // namespace

@@ -11,6 +11,8 @@
 #include "logic/calendar_logic.h"
 #include "yardstick/days.h"
 
+using almara::test::IcuChineseCalendar;
+
 namespace {
 
 std::vector<CCalendarSolarDate> Days(bool shuffled) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#ifndef ALMARA_YARDSTICK_DAYS_H_
-#define ALMARA_YARDSTICK_DAYS_H_
+#ifndef ALMARA_TESTS_YARDSTICK_DAYS_H_
+#define ALMARA_TESTS_YARDSTICK_DAYS_H_
 
 #include <almara/almara_types.h>
 
@@ -29,4 +29,4 @@ inline std::vector<CCalendarSolarDate> Shuffled(std::vector<CCalendarSolarDate> 
 
 }  // namespace almara::test
 
-#endif  // ALMARA_YARDSTICK_DAYS_H_
+#endif  // ALMARA_TESTS_YARDSTICK_DAYS_H_

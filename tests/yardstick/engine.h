@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#ifndef ALMARA_YARDSTICK_ENGINE_H_
-#define ALMARA_YARDSTICK_ENGINE_H_
+#ifndef ALMARA_TESTS_YARDSTICK_ENGINE_H_
+#define ALMARA_TESTS_YARDSTICK_ENGINE_H_
 
 #include <almara/almara_types.h>
 
@@ -32,4 +32,4 @@ class Engine {
 
 }  // namespace almara::test::yardstick
 
-#endif  // ALMARA_YARDSTICK_ENGINE_H_
+#endif  // ALMARA_TESTS_YARDSTICK_ENGINE_H_

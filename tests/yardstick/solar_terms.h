@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#ifndef ALMARA_YARDSTICK_SOLAR_TERMS_H_
-#define ALMARA_YARDSTICK_SOLAR_TERMS_H_
+#ifndef ALMARA_TESTS_YARDSTICK_SOLAR_TERMS_H_
+#define ALMARA_TESTS_YARDSTICK_SOLAR_TERMS_H_
 
 #include "lunar/calendar_lunar_solar_terms.h"
 
@@ -17,4 +17,4 @@ ESolarKyureki24 Check24Sekki(int year, int month, int day);
 
 }  // namespace almara::test::yardstick
 
-#endif  // ALMARA_YARDSTICK_SOLAR_TERMS_H_
+#endif  // ALMARA_TESTS_YARDSTICK_SOLAR_TERMS_H_
