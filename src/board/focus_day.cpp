@@ -18,6 +18,7 @@ FocusDay FindFocusDay(const BoardRequest& request) {
   const DayCounting counting = request.options.GetDayCounting();
   DayRun run(date.year, date.month, date.day, counting);
   run.DateAt(0, date);
+  // MUTATE_EXCL: the run of the same day is the same.
   if (!IsSameDay(date, request.focus)) {
     run = DayRun(date.year, date.month, date.day, counting);
   }

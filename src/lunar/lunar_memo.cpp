@@ -30,6 +30,7 @@ void LunarMemo::ForgetOtherZones(double zone) {
 
 const LunarQuarter* LunarMemo::QuarterOf(double dayCount, double zone) {
   const bool mayShare = MayShare(dayCount, zone);
+  // MUTATE_EXCL: what is not found is worked out with the same result.
   if (mayShare) {
     ForgetOtherZones(zone);
     const auto kept = m_quarters.upper_bound(dayCount);

@@ -225,10 +225,11 @@ struct WeekInYearCase {
 };
 
 constexpr WeekInYearCase kWeekInYearCases[] = {
-    {2024, 10, 2024, 3, 4},     //
-    {2024, 53, 2024, 12, 30},   // one week too many goes to 2025 and falls back
-    {2026, 54, 2027, 1, 4},     //
-    {2024, 105, 2025, 12, 29},  // two years on: week 1 of 2026
+    {2024, 10, 2024, 3, 4},                    //
+    {2024, 53, 2024, 12, 30},                  // one week too many goes to 2025 and falls back
+    {2026, 54, 2027, 1, 4},                    //
+    {2024, 105, 2025, 12, 29},                 // two years on: week 1 of 2026
+    {2024, -306783379, 2025, 13, 2147482906},  // seven times as many days wrap
 };
 
 TEST(WeekHelpers, WeekPastTheYearIsCountedOn) {

@@ -201,6 +201,11 @@ TEST(LunarDateSpan, AMonthBefore10KeepsItsYear) {
   EXPECT_EQ(Lunar(200000, 8, 15, 8), "200000-9-11");
 }
 
+// So far away the search may find a new moon twice: the first of the two months has the day.
+TEST(LunarDateSpan, OfTwoMonthsThatBeginOnADayTheFirstHasIt) {
+  EXPECT_EQ(Lunar(-5089, 2, 26, 8), "-5089-1L-1");
+}
+
 // Some 12,000 centuries away the Sun still moves on all the time, on the far side of -11,500 and
 // 12,300 it does not.
 TEST(LunarDateSpan, AnswersAsFarAsTheSearchesSettle) {
