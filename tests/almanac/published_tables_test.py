@@ -30,10 +30,12 @@ def install(npm, folder):
     if stamp.exists() and stamp.read_text(encoding="utf-8") == wanted:
         return True
     # No script of a package needs to run.
-    done = subprocess.run([npm, "ci", "--ignore-scripts", "--no-audit", "--no-fund"], cwd=folder,
-                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, check=False)
+    done = subprocess.run([npm, "ci", "--ignore-scripts", "--no-audit", "--no-fund",
+                           "--prefer-offline", "--fetch-retries=1", "--fetch-retry-mintimeout=1000"],
+                          cwd=folder, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                          check=False)
     if done.returncode != 0:
-        print(f"skipped: npm cannot fetch the tables: {done.stdout}")
+        print(f"{done.stdout}\nskipped: almanac.published_tables (npm cannot fetch the tables)")
         return False
     stamp.write_text(wanted, encoding="utf-8")
     return True

@@ -57,7 +57,9 @@ def install(folder):
     if not installed.exists() or installed.read_bytes() != lock.read_bytes():
         shutil.copy(HERE / "package.json", folder)
         shutil.copy(lock, folder)
-        npm = subprocess.run(["npm", "ci", "--ignore-scripts", "--no-audit", "--no-fund"],
+        npm = subprocess.run(["npm", "ci", "--ignore-scripts", "--no-audit", "--no-fund",
+                              "--prefer-offline", "--fetch-retries=1",
+                              "--fetch-retry-mintimeout=1000"],
                              cwd=folder, check=False, timeout=300)
         if npm.returncode:
             return False

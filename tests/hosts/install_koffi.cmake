@@ -10,8 +10,10 @@ endif()
 if("${installed}" STREQUAL "${wanted}")
   return()
 endif()
-# koffi brings its compiled part along; no script of a package needs to run.
+# koffi brings its compiled part along; no script of a package needs to run. Without a network npm
+# would wait two minutes before it looks into its cache.
 execute_process(COMMAND ${NPM} ci --ignore-scripts --no-audit --no-fund
+    --prefer-offline --fetch-retries=1 --fetch-retry-mintimeout=1000
   WORKING_DIRECTORY ${TO} RESULT_VARIABLE result)
 if(NOT result EQUAL 0)
   execute_process(COMMAND ${CMAKE_COMMAND} -E echo
