@@ -16,8 +16,8 @@ say() {
 }
 
 fail() {
-  trap - EXIT
   say "FAILED: $*"
+  STEP=
   exit 1
 }
 
@@ -27,7 +27,12 @@ begin() {
   say "$STEP"
 }
 STEP=starting
-trap '(($? == 0)) || say "FAILED: $STEP"' EXIT
+
+# For a script to define anew: what it leaves to be done at its end, however that comes.
+clean_up() {
+  :
+}
+trap '(($? == 0)) || [[ -z $STEP ]] || say "FAILED: $STEP"; clean_up' EXIT
 
 # show_help <status>: prints the comment at the head of the script and exits.
 show_help() {
@@ -49,7 +54,9 @@ case ${1-} in -h | --help) show_help 0 ;; esac
 if ((EUID == 0)) && [[ ${SUDO_UID-0} != 0 && $(stat -c %u "$ROOT") == "$SUDO_UID" ]]; then
   exec sudo -H -u "$SUDO_USER" -- "$0" "$@"
 fi
-if [[ -e $ROOT/build && -n $(find "$ROOT/build" -maxdepth 2 ! -writable -print -quit) ]]; then
+# The fresh roots of the checks, build/*/root, belong to root as long as they exist.
+if [[ -e $ROOT/build &&
+  -n $(find "$ROOT/build" -maxdepth 2 ! -name root ! -writable -print -quit) ]]; then
   fail "another user owns files in $ROOT/build; remove that folder (sudo rm -r) and run this again"
 fi
 

@@ -4,6 +4,8 @@
 # Fresh Debian roots, for what has to be tried on a machine that has nothing yet. Sourced after
 # common.sh.
 
+# Where debootstrap and chroot are; not every user looks there.
+PATH=$PATH:/usr/sbin:/sbin
 CODENAME=$(sed -n 's/^VERSION_CODENAME=//p' /etc/os-release)
 
 # mirror: the one that this machine takes its own packages from.
