@@ -48,9 +48,10 @@
  * Output: every board build writes the board as text to the standard output, and GotoTodayOffset()
  * writes the date it went to, unless SetPrintBoard(false) has switched that off. Text that cannot
  * be written is lost. A pipe or a socket gets it at once: a reader that has gone does no harm, and
- * one that does not read holds up one call for a quarter of a second, and later ones not at all
- * until it reads again. A file or a terminal gets the text through the C library's stdout, as if
- * the host had printed it.
+ * one that does not read for two seconds loses text, which holds up one call, and later ones not at
+ * all until it reads again. What the host has printed before goes first and may wait for the reader
+ * as any printf does. A file or a terminal gets the text through the C library's stdout, as if the
+ * host had printed it.
  */
 #ifndef ALMARA_ALMARA_H_
 #define ALMARA_ALMARA_H_

@@ -3,6 +3,7 @@
 
 #include <poll.h>
 #include <stdio_ext.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -19,7 +20,8 @@ namespace almara {
 
 namespace {
 
-constexpr std::chrono::milliseconds kPatience{250};
+// Longer than a reader on a busy machine pauses, who is to get everything.
+constexpr std::chrono::milliseconds kPatience{2000};
 
 // Whether the last text waited for its reader in vain.
 std::atomic<bool> g_readerIsLate{false};
@@ -72,8 +74,14 @@ bool WaitForRoom(int descriptor) {
   return end.revents == POLLOUT;
 }
 
-// Writes to a pipe or socket that has room. PIPE_BUF characters at a time never wait there, whether
-// or not the host has made it non-blocking.
+// Writes what there is room for, at most PIPE_BUF characters, after WaitForRoom(): a pipe takes as
+// many without waiting, and a socket can be told not to wait.
+ssize_t WriteNow(int descriptor, std::string_view text) {
+  const std::string_view piece = text.substr(0, PIPE_BUF);
+  const ssize_t sent = send(descriptor, piece.data(), piece.size(), MSG_DONTWAIT);
+  return sent < 0 && errno == ENOTSOCK ? write(descriptor, piece.data(), piece.size()) : sent;
+}
+
 void WriteToReader(int descriptor, std::string_view text) {
   const BrokenPipeGuard guard;
   if (__fpending(stdout) != 0) {
@@ -83,7 +91,7 @@ void WriteToReader(int descriptor, std::string_view text) {
     std::fflush(stdout);
   }
   while (!text.empty() && WaitForRoom(descriptor)) {
-    const ssize_t written = write(descriptor, text.data(), text.substr(0, PIPE_BUF).size());
+    const ssize_t written = WriteNow(descriptor, text);
     if (written < 0) {
       return;
     }

@@ -54,6 +54,24 @@ TEST_F(BoardDump, AllRowsAreWrittenVisibleOrNotWithTodayAndEmptyCells) {
                                kBlank);
 }
 
+// Its text is written in several pieces, between two rows each.
+TEST_F(BoardDump, LongBoardIsWrittenRowForRow) {
+  constexpr int kRows = 300;
+  m_board.SetMaxRows(kRows);
+  CaptureStdout output;
+  m_board._BuildCalendar(2024, 3, 13);
+  std::string expected = kBlank;
+  for (const tagCalendarRow& row : m_board.Rows()) {
+    expected += "weeknumber = " + std::to_string(row.weekNumber);
+    for (const CCalendarItem& item : row.items) {
+      expected += '\t' + item.GetDay();
+    }
+    expected += '\n';
+  }
+  EXPECT_EQ(output.Take(), expected + kBlank);
+  EXPECT_EQ(m_board.Rows().size(), static_cast<std::size_t>(kRows));
+}
+
 TEST_F(BoardDump, RejectedDateWritesTheBoardAgainAndNoneIsTwoBlocksOfLineBreaks) {
   CaptureStdout output;
   m_board._BuildCalendar(2100, 1, 1);

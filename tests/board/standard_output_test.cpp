@@ -94,10 +94,12 @@ TEST(StandardOutput, SlowReaderGetsEveryCharacter) {
     sigemptyset(&alarms);
     sigaddset(&alarms, SIGALRM);
     pthread_sigmask(SIG_BLOCK, &alarms, nullptr);
-    while (text.size() < kLongText.size() + 4) {
+    std::string piece;
+    do {
       std::this_thread::sleep_for(std::chrono::milliseconds(20));
-      text += output.Read();
-    }
+      piece = output.Read();
+      text += piece;
+    } while (!piece.empty());
   });
   constexpr itimerval kEvery5Milliseconds{{0, 5000}, {0, 5000}};
   setitimer(ITIMER_REAL, &kEvery5Milliseconds, nullptr);
@@ -110,6 +112,7 @@ TEST(StandardOutput, SlowReaderGetsEveryCharacter) {
   std::signal(SIGALRM, SIG_DFL);
   std::fputs("d", stdout);
   std::fflush(stdout);
+  close(STDOUT_FILENO);
   reader.join();
   EXPECT_EQ(text, "ab" + kLongText + "cd");
 }
@@ -155,6 +158,23 @@ TEST(StandardOutput, NonBlockingPipeStaysAsItIsAndLeavesNoError) {
   EXPECT_EQ(std::ferror(stdout), 0);
   EXPECT_NE(fcntl(STDOUT_FILENO, F_GETFL) & O_NONBLOCK, 0);
   EXPECT_EQ(output.Read(), kWholePipe);
+}
+
+// Room for fewer characters than a piece has: a write that may wait would.
+TEST(StandardOutput, SocketWithLittleRoomIsNotWaitedFor) {
+  int ends[2];
+  ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends), 0);
+  constexpr int kLittle = 1;
+  setsockopt(ends[1], SOL_SOCKET, SO_SNDBUF, &kLittle, sizeof kLittle);
+  const CaptureStdout restorer;
+  dup2(ends[1], STDOUT_FILENO);
+  close(ends[1]);
+  alarm(10);
+  WriteToStandardOutput(kLongText);
+  alarm(0);
+  char text[kPipeSize];
+  EXPECT_GT(read(ends[0], text, sizeof text), 0);
+  close(ends[0]);
 }
 
 // Ends the process with 0 if writing to a standard output made by redirect() does no harm.
