@@ -40,9 +40,6 @@ def cells(text):
 
 
 class Names(unittest.TestCase):
-    def test_the_codes_are_those_of_the_headers(self):
-        self.assertEqual([len(codes) for codes, *_ in NAMED], [24, 54 + 12, 10])
-
     def test_every_code_has_a_name_in_every_language(self):
         for codes, *functions in NAMED:
             for code, constant in codes.items():
@@ -78,7 +75,7 @@ class Names(unittest.TestCase):
     def test_other_ints_have_none(self):
         for codes, *functions in NAMED:
             for function in functions:
-                named = {code for code in range(-2, 30000) if function(code, almara.eLanguageChs)}
+                named = {code for code in range(-2, 2**15) if function(code, almara.eLanguageChs)}
                 self.assertEqual(named, set(codes))
                 for code in (INT32_MIN, -1000, 65536, 2**16 + 1, INT32_MAX):
                     self.assertIsNone(function(code, almara.eLanguageEng))
