@@ -98,8 +98,8 @@ DayCounts CountDays(const BoardRequest& request, const FocusDay& focus) {
       return paged ? CountDaysOfPage(options.GetMaxRows(), focus.column, request.direction)
                    : CountDaysOfRollingWeeks(options, focus.column);
     case eDispMonthRollingTail:
-      // Its rows are counted from the first of a month, and a page begins or ends with its focus
-      // date: under a page direction there are none, whatever has set it.
+      // Under a page direction, whatever has set it, this arrangement has no rows: hosts see an
+      // empty board until the direction is cleared.
       return paged ? DayCounts{} : CountDaysOfRollingTail(options.GetMaxRows(), focus);
     case eDispMonthWholeMonth:
       return CountDaysOfWholeMonth(focus);

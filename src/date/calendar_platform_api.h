@@ -7,7 +7,7 @@
 #include <cstdint>
 
 // Offset of local civil time from universal time in whole hours, east positive, in which lunar
-// dates and solar terms are reckoned. Only the engine's navigation sets it.
+// dates and solar terms are reckoned. Only logic/calendar_logic.cpp sets it.
 extern std::int32_t g_mac_timezone;
 
 // The value of g_mac_timezone until it is known.
