@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Every exported function of the built library with the outermost values of int32 and those around
-// the limits that matter, in every argument. Each test has a process and so an engine of its own.
+// Every function of almara.h that takes an int or a bool with the outermost values of int32 and
+// those around the limits that matter, in every argument, and with every byte of a bool. Each test
+// has a process and so an engine of its own.
 #include <almara/almara.h>
 #include <gtest/gtest.h>
 
@@ -248,6 +249,10 @@ TEST_F(Totality, EveryByteOfABoolCountsByItsLowestBit) {
     RawSetShowBreakDayOfWeek(flag);
     EXPECT_EQ(GetShowBreakDayOfWeek(), isSet);
     RawSetShowMonthInterval(flag);
+    RawSetPrintBoard(flag);
+    EXPECT_EQ(GetPrintBoard(), isSet);
+    RawSetCivilDays(flag);
+    EXPECT_EQ(GetCivilDays(), isSet);
     for (const std::int32_t day : kExtremes) {
       RawSetBreakDayOfWeek(day, flag);
       EXPECT_EQ(IsBreakDayOfWeek(day), isSet && day >= 0 && day <= 6);
