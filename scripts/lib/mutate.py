@@ -123,9 +123,9 @@ class Tree:
             file.write_text("\n".join(lines) + "\n")
             if not self.build("almara"):
                 return "does not compile"
-            # The tests of the room first: they are the likeliest to notice.
-            room = f"tests/{change.path.parent.name}"
-            return "survived" if self.tests_pass(room) and self.tests_pass(".") else "caught"
+            # The tests of the module first: they are the likeliest to notice.
+            module = f"tests/{change.path.parent.name}"
+            return "survived" if self.tests_pass(module) and self.tests_pass(".") else "caught"
         finally:
             file.write_text(original)
 

@@ -41,8 +41,8 @@ def processor(build):
 
 
 def compile_dump(source: pathlib.Path, scratch: pathlib.Path, build: str) -> None:
-    rooms = sorted(path for path in (source / "src").glob("*/*.cpp") if path.parent.name != "plugin")
-    files = [*map(str, rooms), *SOURCES]
+    found = sorted(path for path in (source / "src").glob("*/*.cpp") if path.parent.name != "plugin")
+    files = [*map(str, found), *SOURCES]
     subprocess.run([*BUILDS[build], *FLAGS, *files, "-o", str(scratch / build)], cwd=source,
                    check=True)
 

@@ -30,8 +30,8 @@ for script in "$copy"/scripts/*; do
   [[ -f $script ]] || continue
   expect 0 "scripts/$(basename "$script")" "$script" --help
 done
-for cell in "$copy"/scripts/checks/*; do
-  expect 0 "scripts/check $(basename "$cell")" "$copy/scripts/check" "$(basename "$cell")" --help
+for check in "$copy"/scripts/checks/*; do
+  expect 0 "scripts/check $(basename "$check")" "$copy/scripts/check" "$(basename "$check")" --help
 done
 expect 0 "--full" sh "$copy/scripts/test" --help
 expect 0 "--full" "$work/link" --help
