@@ -13,7 +13,8 @@ from typing import NamedTuple
 
 ROOT = Path(__file__).resolve().parents[2]
 DOCUMENTS = ["README.md", "CONTRIBUTING.md", "docs/*.md", "hosts/*/README.md"]
-BLOCK = re.compile(r"(?:^ *<!-- (not run|file): (.*?) -->\n)?"
+MARK = re.compile(r"^ *<!-- (?:not run|file):", re.MULTILINE)
+BLOCK = re.compile(r"(?:^ *<!-- (not run|file): ([^\n]*) -->\n)?"
                    r"^( *)```(\w*)\n(.*?)^ *```$", re.DOTALL | re.MULTILINE)
 PRINTED = re.compile(r"^(?:print|console\.log)\(.*\);? +(?:#|//) (.*)$", re.MULTILINE)
 CONTROLS = re.compile(r"\r|\x1b\[[0-9;?]*[A-Za-z]")  # of a terminal
@@ -33,7 +34,10 @@ def blocks():
         if path.suffixes[0] != ".md":
             continue  # a translation, with the same commands
         text = path.read_text(encoding="utf-8")
-        for match in BLOCK.finditer(text):
+        found = list(BLOCK.finditer(text))
+        if len(MARK.findall(text)) != sum(match[1] is not None for match in found):
+            raise ValueError(f"{path.relative_to(ROOT)}: a mark is not on the line before a block")
+        for match in found:
             mark, argument, _, language, code = match.groups()
             line = text.count("\n", 0, match.start(3)) + 1
             yield Block(f"{path.relative_to(ROOT)}:{line}", mark, argument, language,
@@ -63,7 +67,7 @@ def type_q(keyboard, process):
 
 def run(enter, commands, log):
     """Whether the commands succeed on a terminal, and what they print."""
-    shell = f"stty -echo; cd ~/almara && exec bash -ec {shlex.quote(commands)}"
+    shell = f"stty -echo; cd ~/almara && exec bash -eo pipefail -c {shlex.quote(commands)}"
     with subprocess.Popen([*enter, "NODE_EXTRA_CA_CERTS=/etc/ssl/certs/ca-certificates.crt",
                            "timeout", str(SECONDS_OF_A_BLOCK), "script", "-qefc", shell,
                            "/dev/null"],
