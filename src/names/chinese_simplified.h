@@ -68,7 +68,7 @@ constexpr Name kChineseSimplifiedFestivals[] = {
     {eFestivalSolarHangulDay, "韩文节"},
     {eFestivalSolarChristmasKor, "圣诞节"},
     {eFestivalSolarIndependenceDay, "独立日"},
-    {eFestivalSolarMartinLutherKingDay, "马丁·路德·金纪念日", "马丁路德"},
+    {eFestivalSolarMartinLutherKingDay, "马丁·路德·金纪念日", "金纪念日"},
     {eFestivalSolarLaborDayUsa, "劳工节"},
     {eFestivalSolarEaster, "复活节"},
     {eFestivalSolarGoodFriday, "耶稣受难日", "受难日"},

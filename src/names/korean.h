@@ -97,7 +97,7 @@ constexpr Name kKoreanFestivals[] = {
     {eFestivalLunarMidAutumn, "추석"},
     {eFestivalLunarDoubleNinth, "중양절"},
     {eFestivalLunarLaba, "납팔절"},
-    {eFestivalLunarLittleNewYear, "작은설"},
+    {eFestivalLunarLittleNewYear, "샤오녠"},
     {eFestivalLunarNewYearsEve, "섣달그믐"},
     {eFestivalLunarBuddhasBirthday, "부처님 오신 날", "석탄일"},
     {eFestivalLunarHungKings, "훙왕 기일"},

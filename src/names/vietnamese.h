@@ -47,7 +47,7 @@ constexpr Name kVietnameseFestivals[] = {
     {eFestivalSolarThanksgiving, "Lễ Tạ ơn"},
     {eFestivalSolarChristmasEve, "Đêm Giáng sinh", "Đêm Noel"},
     {eFestivalSolarChristmasDay, "Lễ Giáng sinh", "Noel"},
-    {eFestivalSolarNewYearsEve, "Giao thừa Dương lịch", "Giao thừa"},
+    {eFestivalSolarNewYearsEve, "Giao thừa Dương lịch", "Cuối năm"},
     {eFestivalSolarArborDay, "Tết trồng cây", "Trồng cây"},
     {eFestivalSolarValentinesDay, "Lễ Tình nhân", "Tình nhân"},
     {eFestivalSolarMothersDay, "Ngày của Mẹ", "Ngày Mẹ"},

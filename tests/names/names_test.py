@@ -72,6 +72,16 @@ class Names(unittest.TestCase):
                         self.assertTrue(any(unicodedata.name(letter).startswith(alphabet)
                                             for letter in name), name)
 
+    def test_latin_languages_are_translated(self):
+        """The others have letters that are not English ones; see above."""
+        borrowed = {"Deu": {"Halloween", "Thanksgiving", "Labor Day", "Hinamatsuri"},
+                    "Vit": {"Halloween", "Hinamatsuri"}}
+        for region, words in borrowed.items():
+            language = getattr(almara, f"eLanguage{region}")
+            same = {function(code, language) for codes, function, *_ in NAMED for code in codes
+                    if function(code, language) == function(code, almara.eLanguageEng)}
+            self.assertEqual(same, words, region)
+
     def test_other_ints_have_none(self):
         for codes, *functions in NAMED:
             for function in functions:
