@@ -31,7 +31,8 @@ def install(npm, folder):
         return True
     # No script of a package needs to run.
     done = subprocess.run([npm, "ci", "--ignore-scripts", "--no-audit", "--no-fund",
-                           "--prefer-offline", "--fetch-retries=1", "--fetch-retry-mintimeout=1000"],
+                           "--prefer-offline", "--fetch-retries=1",
+                           "--fetch-retry-mintimeout=1000"],
                           cwd=folder, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
                           check=False)
     if done.returncode != 0:
