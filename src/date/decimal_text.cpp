@@ -9,6 +9,7 @@ constexpr int kMaxDigits = 10;  // of 32 bits
 constexpr std::uint32_t kPowersOfTen[kMaxDigits] = {
     1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000, 1000000000};
 
+// MUTATE_EXCL: AppendDate() writes the same text either way.
 bool IsWithin(std::int32_t value, std::int32_t last) { return value >= 0 && value <= last; }
 
 char* AppendTwoDigits(char* out, std::int32_t value) {

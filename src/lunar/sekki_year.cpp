@@ -18,6 +18,7 @@ constexpr double kHoursPerDay = 24;
 // Whole days, at least 1, that do not lead past the day on which the Sun reaches a longitude, so
 // that the crossing is always found in a step of one day.
 double DaysShortOf(double longitude, double current) {
+  // MUTATE_EXCL: a larger one costs steps, no answer.
   constexpr double kMaxDailyMotion = 1.03;  // degrees; the Sun is fastest in January, at 1.02
   const double ahead = longitude > current ? longitude - current : longitude - current + 360;
   return std::max(1.0, std::floor(ahead / kMaxDailyMotion));
