@@ -14,7 +14,7 @@ namespace {
 
 using PrincipalTerms = decltype(LunarQuarter::terms);
 using NewMoons = decltype(LunarQuarter::moons);
-using LunarMonths = decltype(LunarQuarter::months);
+using QuarterMonths = decltype(LunarQuarter::months);
 
 // The solstice or equinox at or before dayCount and the three principal terms after it. None if a
 // search does not settle.
@@ -67,12 +67,12 @@ bool HoldsNoPrincipalTerm(const PrincipalTerms& terms, const NewMoons& moons, st
 
 // Numbers the months from the first term. A leap month is looked for only where five new moons fall
 // within the four terms, and the first month without a term is it.
-LunarMonths NumberMonths(const PrincipalTerms& terms, const NewMoons& moons) {
+QuarterMonths NumberMonths(const PrincipalTerms& terms, const NewMoons& moons) {
   bool leapDue = Truncated(moons[4]) <= Truncated(terms[3].time);
-  LunarMonths months{};
+  QuarterMonths months{};
   months[0] = {TruncateToInt32(terms[0].longitude / 30) + 2, 0, TruncateToInt32(moons[0])};
   for (std::size_t k = 1; k < months.size(); ++k) {
-    LunarMonth& previous = months[k - 1];
+    QuarterMonth& previous = months[k - 1];
     if (leapDue && k >= 2 && HoldsNoPrincipalTerm(terms, moons, k - 1)) {
       previous.number = months[k - 2].number;
       previous.leap = 1;
@@ -85,7 +85,7 @@ LunarMonths NumberMonths(const PrincipalTerms& terms, const NewMoons& moons) {
 
 // The month that holds a day: the one before the first that begins after it, or the one that
 // begins on it.
-const LunarMonth& MonthOfDay(const LunarMonths& months, int day) {
+const QuarterMonth& MonthOfDay(const QuarterMonths& months, int day) {
   for (std::size_t k = 0; k < months.size(); ++k) {
     if (day == months[k].start) {
       return months[k];
@@ -121,7 +121,7 @@ std::optional<LunarQuarter> FindLunarQuarter(double dayCount, double zone) {
 
 CCalendarLunarDate LunarDateInQuarter(const LunarQuarter& quarter, double dayCount) {
   const int day = TruncateToInt32(dayCount);
-  const LunarMonth& month = MonthOfDay(quarter.months, day);
+  const QuarterMonth& month = MonthOfDay(quarter.months, day);
   return {LunarYear(dayCount, month.number), month.number,
           WrapAdd(WrapSubtract(day, month.start), 1), 0, month.leap};
 }

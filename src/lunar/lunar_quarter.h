@@ -11,8 +11,8 @@
 
 namespace almara {
 
-// A lunar month.
-struct LunarMonth {
+// A lunar month of a quarter.
+struct QuarterMonth {
   int number;  // 1 to 12
   int leap;    // 1 if it repeats the number of the month before it
   int start;   // whole day count of its first day
@@ -21,9 +21,9 @@ struct LunarMonth {
 // The quarter of a solar year from a solstice or equinox to the next, with the lunar months around
 // it. All days of a quarter have the same months.
 struct LunarQuarter {
-  std::array<SunCrossing, 4> terms;  // principal terms, the last one opens the next quarter
-  std::array<double, 5> moons;       // day counts of the new moons
-  std::array<LunarMonth, 5> months;  // those that begin with the new moons
+  std::array<SunCrossing, 4> terms;    // principal terms, the last one opens the next quarter
+  std::array<double, 5> moons;         // day counts of the new moons
+  std::array<QuarterMonth, 5> months;  // those that begin with the new moons
 };
 
 // Finds the quarter that holds a local day count; the zone is in hours. None if a search does not
