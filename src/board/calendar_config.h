@@ -24,10 +24,8 @@ class CCalendarConfig {
 
   // Days of the day strip, and width of the visible range of a rolling board that shows today. A
   // value outside 1 to 7 is ignored.
-  // No exported function sets it: the setter is a described part of this class, which tests from
-  // outside are written against.
   int GetMaxColumns() const { return m_maxColumns; }
-  void SetMaxColumns(int columns);
+  void SetMaxColumns(int columns);  // Kept for code that compiles against this class.
 
   // Whole weeks before the week of the focus date on a rolling board.
   int GetPassedWeeks() const { return m_passedWeeks; }

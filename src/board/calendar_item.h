@@ -39,8 +39,7 @@ class CCalendarItem {
   // field is written with its sign.
   char* AppendDay(char* out) const;
 
-  // The same text. Not used by the engine: a described part of this class, which tests from outside
-  // are written against.
+  // The same text. Kept for code that compiles against this class.
   std::string GetDay() const;
 
  private:

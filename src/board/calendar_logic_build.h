@@ -33,8 +33,7 @@ class CCalendarLogicBuild : public CCalendarConfig {
   void SetPrintBoard(bool print) { m_printBoard = print; }
   bool IsPrintBoard() const { return m_printBoard; }
 
-  // The single steps of a build, and two facts of the calendar. The engine builds boards without
-  // them; they are described parts of this class, which tests from outside are written against.
+  // Kept for code that compiles against this class.
 
   // Fills rows around the date. Returns 1, or 0 with nothing changed for a date out of range.
   int _BuildContent(int year, int month, int day, std::vector<tagCalendarRow>& rows,
@@ -64,6 +63,7 @@ class CCalendarLogicBuild : public CCalendarConfig {
   static int _GetColumnIndexByDayOfWeek(int startDayOfWeek, int dayOfWeek);
 
  protected:
+  // Kept for code that compiles against this class.
   static constexpr const int (&s_ArrDaysOfSolarMonth)[almara::kMonthsOfYear] =
       almara::kDaysOfCommonMonth;
 

@@ -30,8 +30,7 @@ class CCalendarWeekNumber {
   int _GetWeekOfYear(int year, int month, int day,
                      almara::DayCounting counting = almara::DayCounting::kLocalTime) const;
 
-  // Helpers that the engine does not use: described parts of this class, which tests from outside
-  // are written against (calendar_week_number_helpers.cpp).
+  // Kept for code that compiles against this class. Defined in calendar_week_number_helpers.cpp.
 
   // One above the ISO week from the second week on in years that begin on a Friday, Saturday or
   // Sunday; in all others the ISO week.

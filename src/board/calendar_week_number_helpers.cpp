@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The members of CCalendarWeekNumber that the engine does not use. They are kept because they are
-// described, and tests from outside are written against the description.
+// Kept for code that compiles against this class.
 #include "board/calendar_week_number.h"
 #include "date/gregorian.h"
 #include "date/int32.h"

@@ -33,8 +33,7 @@ class CalendarPlatformApi {
   // g_mac_timezone in hours as it is at the moment, 10000 while it is unknown.
   static double PlatformGetTimeZoneValue();
 
-  // Not used by the engine: described parts of this class, which tests from outside are written
-  // against.
+  // Kept for code that compiles against this class.
 
   // Normalises a date in place and tells its day of week; the incoming week is not read. The
   // parameters keep their values if the system cannot convert the date.

@@ -37,11 +37,12 @@ class CCalendarFestival {
   EFestivalLunar GetFestivalByLunar(ELanguage language, CCalendarSolarDate date,
                                     almara::DayCounting counting = kLocalTime) const;
 
-  // Interface that nothing in the library calls, kept for code written against this class: the
-  // lunar date of a day (all zeroes without an owner), the festivals of every region, and those of
-  // one region alone.
+  // Kept for code that compiles against this class.
+
+  // The lunar date of a day; all zeroes without an owner.
   CCalendarLunarDate _GetLunarDate(CCalendarSolarDate date) const;
 
+  // The festivals of every region, and those of one region alone.
   EFestivalSolar _GetCommonFestivalBySolar(CCalendarSolarDate date) const {
     return almara::CommonSolarFestival(date, kLocalTime);
   }

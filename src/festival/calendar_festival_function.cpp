@@ -143,7 +143,7 @@ void almara::ForgetFeasts() {
   goodFriday = {kNotComputed, kNotComputed};
 }
 
-// ---- Interface that nothing in the library calls ----
+// Kept for code that compiles against this class.
 
 const int CCalendarFestivalFunction::s_ArrDaysOfSolarMonth[12] = {31, 28, 31, 30, 31, 30,
                                                                   31, 31, 30, 31, 30, 31};

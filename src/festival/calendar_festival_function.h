@@ -32,7 +32,7 @@ class CCalendarFestivalFunction {
   static int _GetGoodFriday(int year, int* month, int* day,
                             almara::DayCounting counting = almara::DayCounting::kLocalTime);
 
-  // ---- Interface that nothing in the library calls, kept for code written against this class ----
+  // Kept for code that compiles against this class.
 
   // January to December of a common year.
   static const int s_ArrDaysOfSolarMonth[12];

@@ -102,7 +102,7 @@ class CCalendarLogic : public CCalendarLogicBuild {
   almara::DateMemo<KeptCode> m_mapFestivalLunarCache;
 
   CCalendarFestival m_festival;                // asks this object for lunar dates
-  CCalendarLunarSolarTerms m_lunarSolarTerms;  // interface; the look-ups ask lunar/ themselves
+  CCalendarLunarSolarTerms m_lunarSolarTerms;  // Kept for code that compiles against this class.
   almara::LunarMemo m_lunarMemo;               // work that the look-ups of days share
 
  private:

@@ -21,9 +21,10 @@ struct tagSolarKyurekiChu {
   double longitude;  // the multiple of 30 degrees that the Sun reaches then
 };
 
-// Gregorian to Chinese lunisolar dates. Interface that nothing in the library calls, kept for code
-// written against this class: each member hands on to the function that the comment names, with
-// CalendarPlatformApi's zone as it is at the moment, and a null pointer gives 0.
+// Kept for code that compiles against this class.
+//
+// Gregorian to Chinese lunisolar dates. Each member hands on to the function that the comment
+// names, with CalendarPlatformApi's zone as it is at the moment, and a null pointer gives 0.
 class CCalendarLunarConverter {
  public:
   CCalendarLunarConverter();

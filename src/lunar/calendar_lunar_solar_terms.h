@@ -10,9 +10,10 @@
 
 using almara::kSekkiTermCount;
 
-// The 24 solar terms of a year, and the lunar converter at the same time. Interface that nothing in
-// the library calls, kept for code written against this class: each member hands on to the function
-// that the comment names, with CalendarPlatformApi's zone as it is at the moment.
+// Kept for code that compiles against this class.
+//
+// The 24 solar terms of a year, and the lunar converter at the same time. Each member hands on to
+// the function that the comment names, with CalendarPlatformApi's zone as it is at the moment.
 class CCalendarLunarSolarTerms : public CCalendarLunarConverter {
  public:
   // For the term at longitude 15 * e degrees its ESolarKyureki24, e = 0 at the spring equinox.
