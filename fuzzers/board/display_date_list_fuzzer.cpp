@@ -30,7 +30,8 @@ void ChooseOptions(Input& input, CCalendarLogicBuild& board) {
 
 CCalendarSolarDateEx ChooseEntry(Input& input) {
   const CCalendarSolarDate date{input.About(1899, 2100), input.About(0, 13), input.About(0, 3), 0};
-  return input.Flag() ? CCalendarSolarDateEx::RealDay(date) : CCalendarSolarDateEx::HiddenDay(date);
+  return input.Flag() ? CCalendarSolarDateEx::RealDay(date)
+                      : CCalendarSolarDateEx::KeptBackDay(date);
 }
 
 // Month intervals come as whole rows, and only on a board that was paged to are entries cut.

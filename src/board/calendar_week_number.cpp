@@ -12,7 +12,11 @@ namespace {
 constexpr int kSecondsPerDay = 86400;
 constexpr int kTmBaseYear = 1900;
 constexpr int kNoWeek = -1;
-constexpr int kThursday = 3;  // of days counted from Monday
+
+// Days counted from Monday.
+constexpr int kThursday = 3;
+constexpr int kFriday = 4;
+constexpr int kSaturday = 5;
 
 // Day of the week of 1 January, 0 = Monday.
 int DayOfNewYearFromMonday(int year) {
@@ -27,7 +31,8 @@ int IsoWeek(int year, int month, int day) {
   const int weeksBefore = (almara::DayOfYear(year, month, day) - 1 + newYear) / kDaysOfWeek;
   const int week = newYear > kThursday ? weeksBefore : weeksBefore + 1;
   if (week == 0) {
-    const bool longYearBefore = newYear == 4 || (newYear == 5 && almara::IsLeapYear(year - 1));
+    const bool longYearBefore =
+        newYear == kFriday || (newYear == kSaturday && almara::IsLeapYear(year - 1));
     return longYearBefore ? 53 : 52;
   }
   const int nextNewYear = (newYear + almara::DaysOfYear(year)) % kDaysOfWeek;

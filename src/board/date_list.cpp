@@ -31,7 +31,7 @@ DateList ListDates(const BoardRequest& request, const FocusDay& focus, const Day
     for (int i = 0; i < count && list.size() < listedDays; ++i) {
       CCalendarSolarDate date{};
       focus.run.DateAt(WrapAdd(firstOffset, i), date);
-      list.push_back(keptBack ? CCalendarSolarDateEx::HiddenDay(date)
+      list.push_back(keptBack ? CCalendarSolarDateEx::KeptBackDay(date)
                               : CCalendarSolarDateEx::RealDay(date));
     }
   };

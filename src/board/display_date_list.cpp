@@ -24,7 +24,7 @@ void EraseLast(DateList& list, int count) {
 // Only whole rows are cut, so that no day changes its column.
 bool IsWholeRows(int surplus) { return surplus > 0 && surplus % kDaysOfWeek == 0; }
 
-// A day that opens a month, unless nothing but days kept back stand before it in the first row.
+// A day that opens a month, unless nothing but kept-back days stand before it in the first row.
 bool NeedsMonthInterval(const CCalendarSolarDateEx& entry, std::size_t displayed, bool dayBefore) {
   return entry.day == 1 && (displayed >= kDaysOfWeek || dayBefore);
 }

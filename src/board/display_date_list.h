@@ -13,7 +13,7 @@
 
 // One entry of the flat lists from which a board is cut, of four kinds:
 //   real day               the date above, zeroes below
-//   hidden day             zeroes above, the date below: kept on the board but not shown as a day
+//   kept-back day          zeroes above, the date below: fills the first row and is left blank
 //   month-interval title   year 0, the month that begins, day 1; zeroes below
 //   month-interval filler  all zeroes
 struct CCalendarSolarDateEx {
@@ -29,7 +29,7 @@ struct CCalendarSolarDateEx {
   static CCalendarSolarDateEx RealDay(const CCalendarSolarDate& date) {
     return {date.year, date.month, date.day, date.dayOfWeek, 0, 0, 0, 0};
   }
-  static CCalendarSolarDateEx HiddenDay(const CCalendarSolarDate& date) {
+  static CCalendarSolarDateEx KeptBackDay(const CCalendarSolarDate& date) {
     return {0, 0, 0, 0, date.year, date.month, date.day, date.dayOfWeek};
   }
   static CCalendarSolarDateEx IntervalTitle(std::int32_t month) {
@@ -37,7 +37,7 @@ struct CCalendarSolarDateEx {
   }
   static CCalendarSolarDateEx IntervalFiller() { return {}; }
 
-  // Hidden days and fillers.
+  // Kept-back days and fillers.
   bool IsBlank() const { return year == 0 && month == 0 && day == 0; }
   bool IsIntervalTitle() const { return year == 0 && day == 1; }
 

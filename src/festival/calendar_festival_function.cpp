@@ -50,7 +50,7 @@ MonthDay AnonymousEaster(int year) {
   return {p / 31, p % 31 + 1};
 }
 
-// What the Easter rules computed last. Those of _GetEasterDay are its own.
+// The Easter that _GetEasterDay2 or _GetGoodFriday, the rules of the look-ups, computed last.
 struct EasterCache {
   std::int32_t suEasterYear = kNotComputed;
   std::int32_t suEasterMonth = kNotComputed;
@@ -68,7 +68,7 @@ struct EasterCache {
 
 EasterCache easterCache;
 
-// What the rule of Good Friday answered last.
+// The Good Friday that _GetGoodFriday computed last.
 MonthDay goodFriday{kNotComputed, kNotComputed};
 
 // The Friday at or before a date. A date that cannot be converted gives all zeroes.
@@ -108,6 +108,7 @@ int CCalendarFestivalFunction::_GetMaxDaysOfSolarMonth(int year, int month) {
 }
 
 int CCalendarFestivalFunction::_GetEasterDay2(int year, int* month, int* day) {
+  // Interface: the call that computes writes nothing.
   if (!easterCache.Holds(year)) {
     easterCache.Compute(year);
     return 1;
@@ -122,6 +123,7 @@ int CCalendarFestivalFunction::_GetGoodFriday(int year, int* month, int* day,
   if (month == nullptr || day == nullptr) {
     return 0;
   }
+  // Interface: the day is compared with the year.
   if (goodFriday.day == year && goodFriday.month != kNotComputed) {
     *month = goodFriday.month;
     *day = year;
@@ -204,7 +206,8 @@ MonthDay GaussEaster(int year, const GaussConstants& constants) {
 }  // namespace
 
 int CCalendarFestivalFunction::_GetEasterDay(int year, int* month, int* day) {
-  // The first year computed is kept for the life of the process.
+  // Interface: the first year computed answers for every year. Kept apart from the Easter of the
+  // look-ups, and for the life of the process.
   static std::int32_t suEasterMonth = kNotComputed;
   static std::int32_t suEasterDay = kNotComputed;
   if (suEasterMonth == kNotComputed) {

@@ -67,7 +67,7 @@ double CCalendarLunarConverter::_LONGITUDE_SUN(double t) { return almara::SunLon
 double CCalendarLunarConverter::_LONGITUDE_MOON(double t) { return almara::MoonLongitude(t); }
 
 int CCalendarLunarConverter::_before_nibun(double jd, tagSolarKyurekiNibun* out) {
-  return Write(almara::SeasonBefore(jd, Zone()), out);
+  return Write(almara::SolsticeOrEquinoxBefore(jd, Zone()), out);
 }
 
 int CCalendarLunarConverter::_calc_chu(double jd, tagSolarKyurekiChu* out) {

@@ -42,8 +42,8 @@ class CCalendarLunarConverter {
   static double _LONGITUDE_SUN(double t);
   static double _LONGITUDE_MOON(double t);
 
-  // SeasonBefore, PrincipalTermBefore (0, with nothing written, also where the search does not
-  // settle) and NewMoonBefore.
+  // SolsticeOrEquinoxBefore, PrincipalTermBefore (0, with nothing written, also where the search
+  // does not settle) and NewMoonBefore.
   static int _before_nibun(double jd, tagSolarKyurekiNibun* out);
   static int _calc_chu(double jd, tagSolarKyurekiChu* out);
   static double _calc_saku(double jd);

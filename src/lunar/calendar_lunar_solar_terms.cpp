@@ -9,10 +9,10 @@
 
 namespace {
 
-constexpr std::array<double, kSekkiTermCount> Column(double almara::SekkiTerm::*field) {
-  std::array<double, kSekkiTermCount> column{};
+constexpr std::array<double, kSekkiSeriesSize> Column(double almara::SeriesTerm::*field) {
+  std::array<double, kSekkiSeriesSize> column{};
   for (std::size_t i = 0; i < column.size(); ++i) {
-    column[i] = almara::kSekkiTerms[i].*field;
+    column[i] = almara::kSekkiSeries[i].*field;
   }
   return column;
 }
@@ -24,12 +24,12 @@ constexpr int CCalendarLunarSolarTerms::g_ArrDCSolarKyureki24Sekki[kSekkiCount] 
     17, 18, 19, 20, 21, 22, 23, 0,  1,  2,  3,  4,   // 180 to 345 degrees
 };
 
-constexpr std::array<double, kSekkiTermCount> CCalendarLunarSolarTerms::g_ArrDC24SekkiSla =
-    Column(&almara::SekkiTerm::amplitude);
-constexpr std::array<double, kSekkiTermCount> CCalendarLunarSolarTerms::g_ArrDC24SekkiSlb =
-    Column(&almara::SekkiTerm::rate);
-constexpr std::array<double, kSekkiTermCount> CCalendarLunarSolarTerms::g_ArrDC24SekkiSlc =
-    Column(&almara::SekkiTerm::phase);
+constexpr std::array<double, kSekkiSeriesSize> CCalendarLunarSolarTerms::g_ArrDC24SekkiSla =
+    Column(&almara::SeriesTerm::amplitude);
+constexpr std::array<double, kSekkiSeriesSize> CCalendarLunarSolarTerms::g_ArrDC24SekkiSlb =
+    Column(&almara::SeriesTerm::rate);
+constexpr std::array<double, kSekkiSeriesSize> CCalendarLunarSolarTerms::g_ArrDC24SekkiSlc =
+    Column(&almara::SeriesTerm::phase);
 
 CCalendarLunarSolarTerms::CCalendarLunarSolarTerms()
     : m_nArrDaysOfMonth{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31} {}

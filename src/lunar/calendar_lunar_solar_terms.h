@@ -8,7 +8,7 @@
 #include "lunar/sekki_longitude.h"
 #include "lunar/sekki_year.h"
 
-using almara::kSekkiTermCount;
+using almara::kSekkiSeriesSize;
 
 // Kept for code that compiles against this class.
 //
@@ -19,10 +19,10 @@ class CCalendarLunarSolarTerms : public CCalendarLunarConverter {
   // For the term at longitude 15 * e degrees its ESolarKyureki24, e = 0 at the spring equinox.
   static const int g_ArrDCSolarKyureki24Sekki[kSekkiCount];
 
-  // Amplitude, rate and phase of kSekkiTerms.
-  static const std::array<double, kSekkiTermCount> g_ArrDC24SekkiSla;
-  static const std::array<double, kSekkiTermCount> g_ArrDC24SekkiSlb;
-  static const std::array<double, kSekkiTermCount> g_ArrDC24SekkiSlc;
+  // Amplitude, rate and phase of kSekkiSeries.
+  static const std::array<double, kSekkiSeriesSize> g_ArrDC24SekkiSla;
+  static const std::array<double, kSekkiSeriesSize> g_ArrDC24SekkiSlb;
+  static const std::array<double, kSekkiSeriesSize> g_ArrDC24SekkiSlc;
 
   CCalendarLunarSolarTerms();
 

@@ -105,11 +105,11 @@ double MoonAheadOfSun(double sun, double moon, int step) {
 // Span
 //   settles for day counts within 400 million of 2000 (a million years) in every zone, for the mark
 //   of an unknown zone too; farther away for some. Day counts leave 32 bits beyond 2147483647.
-std::optional<SunCrossing> SeasonBefore(double dayCount, double zone) {
+std::optional<SunCrossing> SolsticeOrEquinoxBefore(double dayCount, double zone) {
   return SunCrossingBefore(dayCount, zone, 90);
 }
 
-// As SeasonBefore, with a longitude of 0, 30, ... 330.
+// As SolsticeOrEquinoxBefore, with a longitude of 0, 30, ... 330.
 std::optional<SunCrossing> PrincipalTermBefore(double dayCount, double zone) {
   return SunCrossingBefore(dayCount, zone, 30);
 }

@@ -17,7 +17,7 @@ struct SunCrossing {
 
 // The last solstice or equinox at or before a moment: the Sun at a multiple of 90 degrees. None if
 // the search does not settle, which happens only millions of years away.
-std::optional<SunCrossing> SeasonBefore(double dayCount, double zone);
+std::optional<SunCrossing> SolsticeOrEquinoxBefore(double dayCount, double zone);
 
 // The last principal term at or before a moment: the Sun at a multiple of 30 degrees. None as
 // above.

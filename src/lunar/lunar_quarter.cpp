@@ -16,17 +16,29 @@ using PrincipalTerms = decltype(LunarQuarter::terms);
 using NewMoons = decltype(LunarQuarter::moons);
 using QuarterMonths = decltype(LunarQuarter::months);
 
+// Days from a principal term to a moment between the next two; terms are 29.4 to 31.5 days apart.
+constexpr double kPastNextTerm = 32;
+// Days from a new moon to two moments between the next two; new moons are 29.2 to 29.9 days apart.
+constexpr double kPastNextMoon = 30;
+constexpr double kWellPastNextMoon = 35;
+// Days back from a new moon to a moment after the one before it.
+constexpr double kPastPreviousMoon = 27;
+// New moons that are no more days apart than these are the same.
+constexpr double kSameMoon = 26;  // MUTATE_EXCL: two found are never the same.
+// The month that holds the spring equinox, 0 degrees.
+constexpr int kMonthOfEquinox = 2;
+
 // The solstice or equinox at or before dayCount and the three principal terms after it. None if a
 // search does not settle.
 std::optional<PrincipalTerms> FindPrincipalTerms(double dayCount, double zone) {
   PrincipalTerms terms{};
-  std::optional<SunCrossing> found = SeasonBefore(dayCount, zone);
+  std::optional<SunCrossing> found = SolsticeOrEquinoxBefore(dayCount, zone);
   for (std::size_t k = 0; found.has_value(); ++k) {
     terms[k] = *found;
     if (k + 1 == terms.size()) {
       return terms;
     }
-    found = PrincipalTermBefore(found->time + 32, zone);
+    found = PrincipalTermBefore(found->time + kPastNextTerm, zone);
   }
   return std::nullopt;
 }
@@ -36,12 +48,12 @@ NewMoons FindNewMoons(double firstTerm, double zone) {
   NewMoons moons{};
   moons[0] = NewMoonBefore(firstTerm, zone);
   for (std::size_t k = 1; k < moons.size(); ++k) {
-    moons[k] = NewMoonBefore(moons[k - 1] + 30, zone);
+    moons[k] = NewMoonBefore(moons[k - 1] + kPastNextMoon, zone);
     // The same new moon found again.
     // MUTATE_EXCL: from 30 days after a new moon the next one is found.
-    if (std::fabs(Truncated(moons[k - 1]) - Truncated(moons[k])) <= 26) {
+    if (std::fabs(Truncated(moons[k - 1]) - Truncated(moons[k])) <= kSameMoon) {
       // MUTATE_EXCL: as above, this is never reached.
-      moons[k] = NewMoonBefore(moons[k - 1] + 35, zone);
+      moons[k] = NewMoonBefore(moons[k - 1] + kWellPastNextMoon, zone);
     }
   }
   return moons;
@@ -52,14 +64,15 @@ void AlignNewMoons(double firstTerm, double zone, NewMoons& moons) {
   const double day = Truncated(firstTerm);
   if (Truncated(moons[1]) <= day) {
     std::copy(moons.begin() + 1, moons.end(), moons.begin());
-    moons[4] = NewMoonBefore(moons[3] + 35, zone);
+    moons[4] = NewMoonBefore(moons[3] + kWellPastNextMoon, zone);
   } else if (Truncated(moons[0]) > day) {
     std::copy_backward(moons.begin(), moons.end() - 1, moons.end());
-    moons[0] = NewMoonBefore(moons[0] - 27, zone);
+    moons[0] = NewMoonBefore(moons[0] - kPastPreviousMoon, zone);
   }
 }
 
-// Whether the month from moons[k] up to the next new moon holds no principal term terms[k].
+// Whether terms[k] falls outside the month of moons[k]. A term on the month's first day counts as
+// outside.
 bool HoldsNoPrincipalTerm(const PrincipalTerms& terms, const NewMoons& moons, std::size_t k) {
   const double term = Truncated(terms[k].time);
   return term <= Truncated(moons[k]) || term >= Truncated(moons[k + 1]);
@@ -70,7 +83,8 @@ bool HoldsNoPrincipalTerm(const PrincipalTerms& terms, const NewMoons& moons, st
 QuarterMonths NumberMonths(const PrincipalTerms& terms, const NewMoons& moons) {
   bool leapDue = Truncated(moons[4]) <= Truncated(terms[3].time);
   QuarterMonths months{};
-  months[0] = {TruncateToInt32(terms[0].longitude / 30) + 2, 0, TruncateToInt32(moons[0])};
+  months[0] = {TruncateToInt32(terms[0].longitude / 30) + kMonthOfEquinox, 0,
+               TruncateToInt32(moons[0])};
   for (std::size_t k = 1; k < months.size(); ++k) {
     QuarterMonth& previous = months[k - 1];
     if (leapDue && k >= 2 && HoldsNoPrincipalTerm(terms, moons, k - 1)) {

@@ -30,8 +30,8 @@ double Cosine(double degrees) { return std::cos(degrees * kRadiansPerDegree); }
 double SekkiSeriesSum(double days) {
   const double centuries = days / kDaysPerCentury;
   double sum = 0;
-  for (int i = kSekkiTermCount; i-- > 0;) {
-    const SekkiTerm& term = kSekkiTerms[i];
+  for (int i = kSekkiSeriesSize; i-- > 0;) {
+    const SeriesTerm& term = kSekkiSeries[i];
     const bool growing = i == 0 || i == 4;
     const double amplitude = growing ? term.amplitude * centuries : term.amplitude;
     sum += amplitude * Cosine(centuries * term.rate + term.phase);

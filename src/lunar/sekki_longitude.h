@@ -9,8 +9,8 @@
 
 namespace almara {
 
-// One term: amplitude * cos(rate * T + phase), T in Julian centuries.
-struct SekkiTerm {
+// One term of the series: amplitude * cos(rate * T + phase), T in Julian centuries.
+struct SeriesTerm {
   double amplitude;  // degrees; in rows 0 and 4 per Julian century, to be multiplied by T
   double rate;       // degrees per Julian century
   double phase;      // degrees
@@ -20,7 +20,7 @@ struct SekkiTerm {
 // 2 to 4) and the perturbations from 0.0004 degrees on. Summed from the last row to the first. The
 // lunar dates have a series of their own (ecliptic_longitude.cpp), which differs from this one in
 // the rate and phase of row 4 and is reduced term by term.
-inline constexpr SekkiTerm kSekkiTerms[] = {
+inline constexpr SeriesTerm kSekkiSeries[] = {
     // 0 to 9
     {36000.7695, 0.0, 0.0},
     {280.4659, 0.0, 0.0},
@@ -43,8 +43,8 @@ inline constexpr SekkiTerm kSekkiTerms[] = {
     {0.0004, 29930.0, 48.0},
     {0.0004, 31557.0, 161.0},
 };
-constexpr int kSekkiTermCount = std::size(kSekkiTerms);
-static_assert(kSekkiTermCount == 18);
+constexpr int kSekkiSeriesSize = std::size(kSekkiSeries);
+static_assert(kSekkiSeriesSize == 18);
 
 // The sum of the series, 0 to below 360.
 double SekkiSeriesSum(double days);

@@ -2,7 +2,7 @@
 #ifndef ALMARA_NAMES_GERMAN_H_
 #define ALMARA_NAMES_GERMAN_H_
 
-#include "name.h"
+#include "names/name.h"
 
 namespace almara {
 

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "names.h"
+#include "names/names.h"
 
 #include <cstddef>
 #include <stdexcept>
 
-#include "chinese_simplified.h"
-#include "chinese_traditional.h"
-#include "english.h"
-#include "german.h"
-#include "japanese.h"
-#include "korean.h"
-#include "russian.h"
-#include "thai.h"
-#include "vietnamese.h"
+#include "names/chinese_simplified.h"
+#include "names/chinese_traditional.h"
+#include "names/english.h"
+#include "names/german.h"
+#include "names/japanese.h"
+#include "names/korean.h"
+#include "names/russian.h"
+#include "names/thai.h"
+#include "names/vietnamese.h"
 
 namespace almara {
 namespace {

@@ -2,7 +2,7 @@
 #ifndef ALMARA_NAMES_RUSSIAN_H_
 #define ALMARA_NAMES_RUSSIAN_H_
 
-#include "name.h"
+#include "names/name.h"
 
 namespace almara {
 

@@ -16,12 +16,12 @@ constexpr double kOneSecond = 1.0 / 86400;
 
 // 2024-03-20 3:06, 2023-12-22 3:27 and 2024-02-19 4:13, all UT.
 TEST(SunSearches, FindTheSeasonAndTheTermBefore) {
-  const auto equinox = SeasonBefore(DayCount(2024, 4, 15), 0);
+  const auto equinox = SolsticeOrEquinoxBefore(DayCount(2024, 4, 15), 0);
   ASSERT_TRUE(equinox.has_value());
   EXPECT_EQ(equinox->longitude, 0);
   EXPECT_NEAR(equinox->time, DayCount(2024, 3, 20, 3.1), 17 * kOneMinute);
 
-  const auto solstice = SeasonBefore(DayCount(2024, 3, 19), 0);
+  const auto solstice = SolsticeOrEquinoxBefore(DayCount(2024, 3, 19), 0);
   ASSERT_TRUE(solstice.has_value());
   EXPECT_EQ(solstice->longitude, 270);
   EXPECT_NEAR(solstice->time, DayCount(2023, 12, 22, 3.45), 17 * kOneMinute);
@@ -34,9 +34,9 @@ TEST(SunSearches, FindTheSeasonAndTheTermBefore) {
 
 TEST(SunSearches, AStartShortlyAfterTheTermFindsIt) {
   for (const int month : {3, 6, 9, 12}) {
-    const auto season = SeasonBefore(DayCount(2024, month, 27), 0);
+    const auto season = SolsticeOrEquinoxBefore(DayCount(2024, month, 27), 0);
     ASSERT_TRUE(season.has_value());
-    const auto again = SeasonBefore(season->time + kOneMinute, 0);
+    const auto again = SolsticeOrEquinoxBefore(season->time + kOneMinute, 0);
     ASSERT_TRUE(again.has_value());
     EXPECT_NEAR(again->time, season->time, kOneSecond) << month;
     EXPECT_EQ(again->longitude, season->longitude) << month;
@@ -68,7 +68,7 @@ TEST(SunSearches, SettleWithinAMillionYears) {
 TEST(SunSearches, GiveUpWhereTheSunTurnsBack) {
   for (const double dayCount : {2e9, 1e300, std::nan("")}) {
     EXPECT_FALSE(PrincipalTermBefore(dayCount, 8).has_value()) << dayCount;
-    EXPECT_FALSE(SeasonBefore(dayCount, 8).has_value()) << dayCount;
+    EXPECT_FALSE(SolsticeOrEquinoxBefore(dayCount, 8).has_value()) << dayCount;
   }
 }
 

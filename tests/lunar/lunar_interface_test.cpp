@@ -33,7 +33,7 @@ TEST(ConverterClass, HandsOn) {
   EXPECT_EQ(Converter::_LONGITUDE_MOON(0.24), MoonLongitude(0.24));
   tagSolarKyurekiNibun nibun{};
   EXPECT_EQ(Converter::_before_nibun(2460400, &nibun), 1);
-  EXPECT_EQ(nibun.time, SeasonBefore(2460400, 9)->time);
+  EXPECT_EQ(nibun.time, SolsticeOrEquinoxBefore(2460400, 9)->time);
   EXPECT_EQ(nibun.longitude, 0);
   tagSolarKyurekiChu chu{};
   EXPECT_EQ(Converter::_calc_chu(2460380, &chu), 1);
