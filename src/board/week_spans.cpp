@@ -11,9 +11,9 @@ constexpr int kLongYearWeek = 53;
 
 // The end of a visible row.
 struct RowEnd {
-  bool isFirst;  // of the visible rows
-  bool isLast;
-  int lastWeek;  // week number of the row's last cell
+  bool isFirst;       // of the visible rows
+  bool isLast;        // of the visible rows
+  bool endsWithWeek;  // as JoinWeeks says
 };
 
 class WeekSpanBuilder {
@@ -43,21 +43,21 @@ class WeekSpanBuilder {
     }
   }
 
-  // Closes the span or lets the next row add to it. A span never holds more than two rows, so it
-  // cannot have collected more than a row's worth of undated cells beside a full row of one week.
+  // The cases of JoinWeeks, in their order.
   void EndRow(const RowEnd& end) {
-    if (m_span.secondWeekNumber == 0 && m_span.firstWeekCells == m_visibleColumns) {
-      Emit();
-    } else if (m_span.secondWeekNumber < 1 || end.lastWeek < 1) {
-      EndOpenRow(end);
-    } else {
+    if (m_span.secondWeekNumber != 0 && end.endsWithWeek) {
       EndRowOfTwoWeeks();
+    } else if (end.isLast && m_span.rows == 1 && m_span.weekNumber == 0 && !m_spans.empty()) {
+      ++m_spans.back().rows;
+    } else if (!end.isLast && m_span.rows == 1 && MayGoOn(end)) {
+      ++m_span.rows;
+    } else {
+      Emit();
     }
   }
 
  private:
-  // Two weeks that reach the last cell. Where the second is week 1, a span of several rows is
-  // divided, the last year's part as it was counted; in one row the new year's week wins.
+  // The last year's part of a divided span is written as it was counted.
   void EndRowOfTwoWeeks() {
     if (m_span.secondWeekNumber == 1) {
       if (m_span.rows != 1) {
@@ -73,31 +73,16 @@ class WeekSpanBuilder {
     Emit();
   }
 
-  // A row that may go on in the next one.
-  void EndOpenRow(const RowEnd& end) {
+  // Whether weeks of the span's first row can follow in the next one.
+  bool MayGoOn(const RowEnd& end) const {
+    const bool wholeWeek = m_span.firstWeekCells == m_visibleColumns;
     const bool longYear = m_span.secondWeekNumber == kLongYearWeek;
-    const bool endsWithWeek = m_span.weekNumber > 0 && end.lastWeek > 0;
+    const bool endsWithWeek = m_span.weekNumber != 0 && end.endsWithWeek;
     const bool mayStandAlone = end.isFirst || m_startDay == eCalendarWeekMonday;
-    if (m_span.rows <= 1 && end.isLast) {
-      EndLastRow();
-    } else if (m_span.rows > 1 || longYear || (endsWithWeek && mayStandAlone)) {
-      Emit();
-    } else {
-      ++m_span.rows;
-    }
+    return !wholeWeek && !longYear && !(endsWithWeek && mayStandAlone);
   }
 
-  // A last row without any week number belongs to the span above.
-  void EndLastRow() {
-    if (m_span.weekNumber == 0 && !m_spans.empty()) {
-      ++m_spans.back().rows;
-    } else {
-      Emit();
-    }
-  }
-
-  // Closes the span. Under ISO weeks on a board that starts on Sunday, a single leading Sunday of
-  // the week before gives way to the week of the rest of the row.
+  // Closes the span. A single Sunday gives way to the week of the rest of the row.
   void Emit() {
     if (m_isoWeeks && m_startDay == eCalendarWeekSunday && m_span.firstWeekCells == 1 &&
         m_span.secondWeekNumber >= 1) {
@@ -131,9 +116,8 @@ std::vector<tagCalendarWeekSpan> JoinWeeks(const CCalendarConfig& options,
     for (int c = 0; c < visible.columnCount; ++c) {
       builder.AddCell(items[visible.ColumnAt(c)].GetWeekNumber());
     }
-    // The last cell is that of the board column with this index, not of the last visible column.
     const auto lastColumn = static_cast<std::size_t>(visible.columnCount - 1);
-    builder.EndRow({r == 0, r == visible.rowCount - 1, items[lastColumn].GetWeekNumber()});
+    builder.EndRow({r == 0, r == visible.rowCount - 1, items[lastColumn].GetWeekNumber() > 0});
   }
   return spans;
 }

@@ -133,6 +133,7 @@ TEST_F(WeekSpans, OnlyRowWithoutWeeksIsASpanOfItsOwn) {
 TEST_F(WeekSpans, TwoRowsWithoutWeeksAreOneSpan) {
   EXPECT_EQ(Of({AllOf(U), AllOf(U)}), (Spans{{0, 0, 0, 0, 14, 2}}));
   EXPECT_EQ(Of({AllOf(U), AllOf(U), AllOf(9)}), (Spans{{0, 0, 0, 0, 14, 2}, {9, 7, 0, 0, 0, 1}}));
+  EXPECT_EQ(Of({AllOf(8), AllOf(U), AllOf(U)}), (Spans{{8, 7, 0, 0, 0, 1}, {0, 0, 0, 0, 14, 2}}));
 }
 
 TEST_F(WeekSpans, LastRowIsAlwaysClosed) {
