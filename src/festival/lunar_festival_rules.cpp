@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "date/kept_code.h"
+
 namespace almara {
 namespace {
 
@@ -53,6 +55,7 @@ constexpr LunarFestivalRule kRules[] = {
     {eLanguageVit, 9, 9, eFestivalLunarDoubleNinth},
     {eLanguageVit, 12, kLastDay, eFestivalLunarNewYearsEve},
 };
+static_assert(CanKeepCodes(std::begin(kRules), std::end(kRules)));
 
 EFestivalLunar Find(ELanguage language, int month, int day) {
   for (const LunarFestivalRule& rule : kRules) {

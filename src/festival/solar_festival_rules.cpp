@@ -3,6 +3,7 @@
 
 #include <cstddef>
 
+#include "date/kept_code.h"
 #include "festival/calendar_festival_function.h"
 
 namespace almara {
@@ -163,6 +164,16 @@ constexpr RuleList kRegions[] = {
     RuleList(kRulesVit), RuleList(kRulesTha),
 };
 constexpr RuleList kEveryRegion(kCommonRules);
+
+constexpr bool CanKeepEveryCode() {
+  for (const RuleList& rules : kRegions) {
+    if (!CanKeepCodes(rules.first, rules.last)) {
+      return false;
+    }
+  }
+  return CanKeepCodes(kEveryRegion.first, kEveryRegion.last);
+}
+static_assert(CanKeepEveryCode());
 
 // The movable feasts of a year as the Easter rules tell them; 0 where they tell nothing.
 struct MovableFeasts {

@@ -4,6 +4,8 @@
 #include "lunar/lunar_date.h"
 #include "lunar/sekki_lookup.h"
 
+using almara::KeptCode;
+
 namespace {
 
 constexpr int kNoLanguage = 0;  // of questions that depend on the date alone

@@ -2,6 +2,7 @@
 #include "logic/calendar_logic.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <tuple>
 

@@ -4,10 +4,9 @@
 
 #include <almara/almara_types.h>
 
-#include <cstdint>
-
 #include "board/calendar_logic_build.h"
 #include "date/date_memo.h"
+#include "date/kept_code.h"
 #include "festival/calendar_festival.h"
 #include "lunar/calendar_lunar_solar_terms.h"
 #include "lunar/lunar_memo.h"
@@ -92,14 +91,11 @@ class CCalendarLogic : public CCalendarLogicBuild {
   // State of the navigation alone; stays in force until it is set again.
   almara::PageDirection m_pageDirection = almara::PageDirection::kNone;
 
-  // Every code fits 16 bits, so that more of them stay in cache.
-  using KeptCode = std::int16_t;
-
   // Answers by date, those of the festivals by language and date.
   almara::DateMemo<CCalendarLunarDate> m_mapLunarDateCache;
-  almara::DateMemo<KeptCode> m_map24SekkiCache;
-  almara::DateMemo<KeptCode> m_mapFestivalSolarCache;
-  almara::DateMemo<KeptCode> m_mapFestivalLunarCache;
+  almara::DateMemo<almara::KeptCode> m_map24SekkiCache;
+  almara::DateMemo<almara::KeptCode> m_mapFestivalSolarCache;
+  almara::DateMemo<almara::KeptCode> m_mapFestivalLunarCache;
 
   CCalendarFestival m_festival;                // asks this object for lunar dates
   CCalendarLunarSolarTerms m_lunarSolarTerms;  // Kept for code that compiles against this class.
