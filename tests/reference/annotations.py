@@ -5,20 +5,23 @@
                    [--zone HOURS] [--tz NAME]
     annotations.py --library build/release/libalmara.so --from 1900-01-01 --to 2099-12-31
                    [--stride DAYS] [--language N] [--zone HOURS] [--solar-festivals]
+    annotations.py --library build/release/libalmara.so --replay FILE
 
 The first form asks at random: lunar dates, solar terms and festivals of ordinary days, of days near
 a term or a feast, of years in a row as the Easter rule sees them, and of dates that do not exist.
-The second form sweeps a range of days.  ``--zone`` is the zone value in hours, ``unset`` for an
-engine that was never initialised; ``--tz`` is the local zone behind the date services.  Ends with 1
-when there was any difference.
+The second form sweeps a range of days, the third runs the line again that was printed under a
+difference.  ``--zone`` is the zone value in hours, ``unset`` for an engine that was never
+initialised; ``--tz`` is the local zone behind the date services.  Ends with 1 when there was any
+difference.
 """
 
 import argparse
+import itertools
 import random
 import sys
 from datetime import date
 
-from comparison import CHILD_FLAG, child_main, report
+from comparison import CHILD_FLAG, child_main, replayed, report
 from library import ANNOTATION_CALLS
 
 UNSET = "unset"
@@ -145,11 +148,12 @@ def first_calls(zone, seed):
 
 
 def run_calls(task, recorder):
-    """Initialise and make the calls of a task."""
-    for call in first_calls(task["zone_hours"], task["seed"]):
-        recorder.begin(call)
-        recorder.call(*call)
-    for call in swept_calls(task) if "days" in task else random_calls(task):
+    """Make the calls of a task: given ones, or the initialisation and those that follow."""
+    calls = task.get("steps") or itertools.chain(
+        first_calls(task["zone_hours"], task["seed"]),
+        swept_calls(task) if "days" in task else random_calls(task),
+    )
+    for call in calls:
         recorder.begin(call)
         recorder.call(*call)
 
@@ -208,12 +212,15 @@ def parse_arguments():
     parser.add_argument(
         "--solar-festivals", action="store_true", help="sweep the solar festivals alone"
     )
+    parser.add_argument("--replay", help="file with the line of a difference")
     return parser.parse_args()
 
 
 def main():
     """Run the tasks and report."""
     arguments = parse_arguments()
+    if arguments.replay:
+        return report(__file__, replayed(arguments.replay, arguments.library))
     swept = getattr(arguments, "from") is not None
     return report(__file__, (sweep_tasks if swept else tasks)(arguments))
 

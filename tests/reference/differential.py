@@ -6,17 +6,16 @@
 
 Every sequence runs in fresh processes.  After each navigation call everything that can be asked
 about the board is asked, valid or not, and the text on the standard output is compared byte for
-byte.  The first difference of a sequence is printed with the steps that lead to it; saved in a
-file they can be run again with ``--replay``.  Ends with 1 when there was any difference.
+byte.  The first difference of a sequence is printed, and under it a line with the steps that
+lead to it; that line, saved in a file, runs again with ``--replay``.  Ends with 1 when there was any difference.
 """
 
 import argparse
 import itertools
-import json
 import random
 import sys
 
-from comparison import CHILD_FLAG, CLOCK_STEP, child_main, report, set_clock
+from comparison import CHILD_FLAG, CLOCK_STEP, child_main, replayed, report, set_clock
 from library import HEADERS
 
 ZONES = (
@@ -296,16 +295,14 @@ def parse_arguments():
     parser.add_argument("--length", type=int, default=60, help="steps of a sequence")
     parser.add_argument("--zone", help="value of TZ; default: a selection")
     parser.add_argument("--today", help="local time at which the clock stands")
-    parser.add_argument("--replay", help="file with the steps of a difference")
+    parser.add_argument("--replay", help="file with the line of a difference")
     return parser.parse_args()
 
 
 def tasks(arguments):
     """Zone, today and task of each sequence."""
     if arguments.replay:
-        with open(arguments.replay, encoding="utf-8") as stream:
-            task = json.load(stream) | {"library": arguments.library}
-        yield task["zone"], task["today"], task
+        yield from replayed(arguments.replay, arguments.library)
         return
     pairs = list(circumstances(arguments))
     random.Random(arguments.seed).shuffle(pairs)

@@ -2,12 +2,15 @@
 """Festivals of the Gregorian and of the lunisolar calendar by language."""
 
 import re
-
-import interface
+import sys
+from pathlib import Path
 
 from .date_services import SolarDate
 from .festival_rules import FestivalRules
 from .week_number import MONDAY, SATURDAY, SUNDAY, THURSDAY
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[3] / "scripts" / "lib"))
+import interface  # noqa: E402
 
 NO_FESTIVAL = 0
 
