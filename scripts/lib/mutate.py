@@ -125,7 +125,8 @@ class Tree:
                 return "does not compile"
             # The tests of the module first: they are the likeliest to notice.
             module = f"tests/{change.path.parent.name}"
-            return "survived" if self.tests_pass(module) and self.tests_pass(".") else "caught"
+            folders = [module, "."] if (self.folder / module).is_dir() else ["."]
+            return "survived" if all(map(self.tests_pass, folders)) else "caught"
         finally:
             file.write_text(original)
 
