@@ -67,7 +67,9 @@ void CheckDate(EAlmanacCalendar calendar, ELanguage language, const CCalendarSol
   const ESolarKyureki24 term = AlmanacTermOfDate(calendar, date);
   const EFestivalLunar festival = AlmanacLunarFestival(calendar, language, date);
   ALMARA_CHECK(term >= -1 && term <= 23);
-  ALMARA_CHECK(festival == 0 || AlmaraFestivalName(festival, language) != nullptr);
+  ALMARA_CHECK(festival == eFestivalLunarNone ||
+               (festival >= eFestivalLunarNewYearsDay && festival <= eFestivalLunarHungKings &&
+                AlmaraFestivalName(festival, language) != nullptr));
   if (lunar.year == 0) {
     ALMARA_CHECK(IsNone(back) && term == eSekkiNone && festival == eFestivalLunarNone);
     return;

@@ -236,7 +236,9 @@ TEST_F(Logic, MonthsPageToTheFirstOfTheMonth) {
   }
 }
 
-// Months are built on their own: there is no side from which to come.
+// A direction from another arrangement stays in force, and hosts see it: the tail board stays
+// empty, and a whole month built backward may lack its first week. GotoSpecifiedDate() is a command
+// by months in the whole-month arrangement alone; in the tail one it sets the direction.
 TEST_F(Logic, CommandsByMonthsKeepTheDirection) {
   struct {
     int mode;
@@ -660,7 +662,6 @@ TEST_F(Logic, TodayHasItsWeekdayAndDoesNotTouchTheBoard) {
   EXPECT_EQ(m_engine.GetContentRows(), 0);
 }
 
-// What was today at the last build stays so until the next.
 // No board can be built for the day after, so that the one before stays.
 TEST_F(Logic, MidnightAfterTheLastYearLeavesTheBoard) {
   SetToday(2099, 12, 31);
@@ -673,6 +674,7 @@ TEST_F(Logic, MidnightAfterTheLastYearLeavesTheBoard) {
   EXPECT_TRUE(m_engine.IsTodayInBoard());
 }
 
+// What was today at the last build stays so until the next.
 TEST_F(Logic, MidnightPassesBetweenBuilds) {
   m_engine.GotoToday();
   SetToday(2024, 3, 14);
