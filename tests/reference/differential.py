@@ -7,7 +7,8 @@
 Every sequence runs in fresh processes.  After each navigation call everything that can be asked
 about the board is asked, valid or not, and the text on the standard output is compared byte for
 byte.  The first difference of a sequence is printed, and under it a line with the steps that
-lead to it; that line, saved in a file, runs again with ``--replay``.  Ends with 1 when there was any difference.
+lead to it; that line, saved in a file, runs again with ``--replay``.  Ends with 1
+when there was any difference.
 """
 
 import argparse
