@@ -9,10 +9,10 @@
 
 namespace almara {
 
-// The days of a board in their order, without gaps: the leading padding, the days before the focus
-// date, the focus date, the days after it and the trailing padding. Leading padding is kept back
-// while month intervals are shown, trailing padding never. A date that the system cannot convert is
-// all zeroes.
+// The days of a board in their order, without gaps: those that fill its first row, those before the
+// focus date, the focus date, those after it and those that fill the last row. The first are
+// kept-back days while month intervals are shown, the last never. A date that the system cannot
+// convert is all zeroes.
 DateList ListDates(const BoardRequest& request, const FocusDay& focus, const DayCounts& counts);
 
 }  // namespace almara

@@ -12,8 +12,8 @@ namespace almara {
 struct DayCounts {
   int before = 0;  // days before the focus date
   int after = 0;   // days after it
-  int lead = 0;    // padding days in front of those before
-  int trail = 0;   // padding days following those after
+  int lead = 0;    // days in front of those before, to fill the first row; may be kept back
+  int trail = 0;   // days following those after, to fill the last row
   int rows = 0;    // rows of the board
 };
 
