@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // The content of boards. A row is written as its week number and its cells: "5" a day, "5b" a break
-// day, "5*" today, "5*b" today on a break day, "(5)" a hidden day, "[3]" the title of March, "." a
-// filler and "-" an empty cell.
+// day, "5*" today, "5*b" today on a break day, "(5)" a kept-back day, "[3]" the title of March, "."
+// a filler and "-" an empty cell.
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -193,7 +193,7 @@ TEST_F(BoardContent, PagedForwardTheFocusWeekIsTheFirstRow) {
   EXPECT_EQ(rows.back(), "16 | 15 16 17 18 19 20b 21b");
 }
 
-TEST_F(BoardContent, PagedForwardTheDaysOfTheWeekBeforeTheFocusAreHidden) {
+TEST_F(BoardContent, PagedForwardTheDaysOfTheWeekBeforeTheFocusAreKeptBack) {
   EXPECT_EQ(Build(2024, 3, 27, PageDirection::kForward)[0], "13 | (25) (26) 27 28 29 30b 31b");
   EXPECT_EQ(Date(m_board.Built().content.first), "2024-3-27");
 }
@@ -204,8 +204,8 @@ TEST_F(BoardContent, PagedForwardWithoutIntervalsTheyAreShown) {
   EXPECT_EQ(Date(m_board.Built().content.first), "2024-3-25");
 }
 
-// The hidden 1st of a month brings no band, wherever it stands.
-TEST_F(BoardContent, HiddenFirstDayBringsNoBand) {
+// A kept-back 1st of a month brings no band, wherever it stands.
+TEST_F(BoardContent, KeptBackFirstDayBringsNoBand) {
   EXPECT_EQ(Build(2024, 3, 2, PageDirection::kForward)[0], "9 | (26) (27) (28) (29) (1) 2b 3b");
 }
 
@@ -265,10 +265,10 @@ TEST_F(BoardContent, WholeMonthHidesTheDaysBeforeIt) {
   EXPECT_EQ(Build(2024, 3, 13), (Texts{"9 | (26) (27) (28) (29) 1 2b 3b", "10 | 4 5 6 7 8 9b 10b",
                                        "11 | 11 12 13 14 15 16b 17b", "12 | 18 19 20 21 22 23b 24b",
                                        "13 | 25 26 27 28 29 30b 31b"}));
-  const CCalendarItem& hidden = m_board.Cell(0, 1);
-  EXPECT_EQ(hidden.GetDay(), "(2)2024-02-27");
-  EXPECT_EQ(hidden.GetDate().dayOfWeek, 0);  // a Tuesday
-  EXPECT_EQ(hidden.GetWeekNumber(), 9);
+  const CCalendarItem& keptBack = m_board.Cell(0, 1);
+  EXPECT_EQ(keptBack.GetDay(), "(2)2024-02-27");
+  EXPECT_EQ(keptBack.GetDate().dayOfWeek, 0);  // a Tuesday
+  EXPECT_EQ(keptBack.GetWeekNumber(), 9);
   EXPECT_EQ(Date(m_board.Built().content.first), "2024-3-1");
   EXPECT_FALSE(m_board.IsTodayInBoard());
   m_board.SetShowMonthInterval(false);
@@ -284,7 +284,7 @@ TEST_F(BoardContent, WholeMonthThatBeginsInColumn0HasNoLeadingDays) {
   EXPECT_EQ(april[0], "14 | 1 2 3 4 5 6b 7b");
   EXPECT_EQ(april[4], "18 | 29 30 [5] . . . .");
   m_board.SetShowMonthInterval(false);
-  EXPECT_EQ(Build(2024, 4, 15)[4], "18 | 29 30 1 2 3 4b 5b");  // days after it are never hidden
+  EXPECT_EQ(Build(2024, 4, 15)[4], "18 | 29 30 1 2 3 4b 5b");  // days after it are never kept back
 }
 
 TEST_F(BoardContent, RowsOfWholeMonths) {

@@ -22,7 +22,7 @@ namespace {
 CCalendarSolarDateEx Real(const Civil& d) {
   return {d.year, d.month, d.day, DayOfWeek(d), 0, 0, 0, 0};
 }
-CCalendarSolarDateEx Hidden(const Civil& d) {
+CCalendarSolarDateEx KeptBack(const Civil& d) {
   return {0, 0, 0, 0, d.year, d.month, d.day, DayOfWeek(d)};
 }
 
@@ -40,7 +40,7 @@ static_assert(offsetof(CCalendarSolarDateEx, dayOfWeek) == 12 &&
               offsetof(CCalendarSolarDateEx, hiddenYear) == 16 &&
               offsetof(CCalendarSolarDateEx, hiddenDayOfWeek) == 28);
 
-// "29 30 [3] . . . . . . 1 2": days, a title with its month, fillers, and hidden days as "(31)".
+// "29 30 [3] . . . . . . 1 2": days, a title with its month, fillers, and kept-back days as "(31)".
 std::string Text(const DateList& list) {
   std::string text;
   for (const CCalendarSolarDateEx& e : list) {
@@ -78,7 +78,7 @@ class DisplayDateList : public testing::Test {
 
 TEST(DisplayDate, BlankIsWhatShowsNoPartOfADate) {
   EXPECT_TRUE(CCalendarSolarDateEx{}.IsBlank());
-  EXPECT_TRUE(Hidden({2024, 3, 31}).IsBlank());
+  EXPECT_TRUE(KeptBack({2024, 3, 31}).IsBlank());
   EXPECT_FALSE((CCalendarSolarDateEx{0, 0, 2, 0, 0, 0, 0, 0}).IsBlank());
   EXPECT_FALSE((CCalendarSolarDateEx{0, 4, 0, 0, 0, 0, 0, 0}).IsBlank());
   EXPECT_FALSE((CCalendarSolarDateEx{2024, 0, 0, 0, 0, 0, 0, 0}).IsBlank());
@@ -144,21 +144,21 @@ TEST_F(DisplayDateList, StripHasNoBandAcrossAMonth) {
   EXPECT_EQ(Shown(Days({2024, 2, 26}, 7)), "26 27 28 29 1 2 3");
 }
 
-TEST_F(DisplayDateList, SevenHiddenDaysOrAShownOneBringTheBand) {
+TEST_F(DisplayDateList, SevenKeptBackDaysOrAShownOneBringTheBand) {
   DateList source;
   for (int day = 24; day <= 29; ++day) {
-    source.push_back(Hidden({2024, 2, day}));
+    source.push_back(KeptBack({2024, 2, day}));
   }
   source.push_back(Real({2024, 3, 1}));
   EXPECT_EQ(Shown(source), "(24) (25) (26) (27) (28) (29) 1");
-  source.insert(source.begin(), Hidden({2024, 2, 23}));
+  source.insert(source.begin(), KeptBack({2024, 2, 23}));
   EXPECT_EQ(Shown(source), "(23) (24) (25) (26) (27) (28) (29) [3] . . . . . . 1");
-  EXPECT_EQ(Shown({Hidden({2024, 2, 28}), Real({2024, 2, 29}), Real({2024, 3, 1})}),
+  EXPECT_EQ(Shown({KeptBack({2024, 2, 28}), Real({2024, 2, 29}), Real({2024, 3, 1})}),
             "(28) 29 [3] . . . . . . 1");
 }
 
-TEST_F(DisplayDateList, HiddenFirstDayNeverBringsABand) {
-  EXPECT_EQ(Shown({Real({2024, 2, 29}), Hidden({2024, 3, 1}), Real({2024, 3, 2})}), "29 (1) 2");
+TEST_F(DisplayDateList, KeptBackFirstDayNeverBringsABand) {
+  EXPECT_EQ(Shown({Real({2024, 2, 29}), KeptBack({2024, 3, 1}), Real({2024, 3, 2})}), "29 (1) 2");
 }
 
 TEST_F(DisplayDateList, PlainBuildCutsNothing) {
