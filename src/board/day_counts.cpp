@@ -57,6 +57,7 @@ DayCounts CountDaysOfRollingWeeks(const CCalendarConfig& options, int column) {
       std::max(WrapSubtract(options.GetMaxRows(), options.GetPassedWeeks()), 1);
   DayCounts counts;
   counts.before = WrapAdd(DaysOfWeeks(options.GetPassedWeeks()), column);
+  // MUTATE_EXCL: days listed after the last row are not shown.
   counts.after = WrapSubtract(DaysOfWeeks(weeksFromFocus), column + 1);
   counts.rows = options.GetMaxRows();
   return counts;
@@ -67,6 +68,7 @@ DayCounts CountDaysOfPage(int rows, int column, PageDirection direction) {
   DayCounts counts;
   if (direction == PageDirection::kBackward) {
     counts.before = WrapSubtract(WrapAdd(column, DaysOfWeeks(rows)), kDaysOfWeek);
+    // MUTATE_EXCL: days listed after the last row are not shown.
     counts.after = kDaysOfWeek - 1 - column;
   } else {
     counts.after = WrapSubtract(DaysOfWeeks(rows), column + 1);
@@ -82,6 +84,7 @@ DayCounts CountDaysOfRollingTail(int rows, const FocusDay& focus) {
   const int weeksFromFocus = std::max(WrapSubtract(WrapAdd(rows, 1), focusRow), 1);
   DayCounts counts;
   counts.before = focus.date.day - 1;
+  // MUTATE_EXCL: days listed after the last row are not shown.
   counts.after = WrapSubtract(DaysOfWeeks(weeksFromFocus), focus.column + 1);
   counts.lead = lead;
   counts.rows = std::max(rows, focusRow);

@@ -65,6 +65,7 @@ constexpr int kNearDays = 10 * kDaysOfWeek;
 // Whether StepDays() serves, which takes fewer steps than DateOfEpochDay() for most days of a
 // board.
 bool IsNear(const CCalendarSolarDate& date, int offset) {
+  // MUTATE_EXCL: both ways give the same date.
   return offset > -kNearDays && offset < kNearDays && date.year >= kFirstYear &&
          date.year <= kLastYear;
 }

@@ -18,6 +18,7 @@ int YearLike(double year) {
   const int whole = TruncateToInt32(year);
   // MUTATE_EXCL: 1582 is no leap year under either rule.
   const bool isLeap = whole > kLastJulianYear ? IsLeapYear(whole) : whole % 4 == 0;
+  // MUTATE_EXCL: any common year will do.
   return isLeap ? 2000 : 2001;
 }
 

@@ -49,6 +49,7 @@ double SekkiSeriesSum(double days) {
 double SekkiSunLongitude(double days) {
   double longitude =
       SekkiSeriesSum(days) + 0.0048 * Cosine(days * 1934 / kDaysPerCentury + 145) - 0.0057;
+  // MUTATE_EXCL: a turn too much is taken off again.
   while (longitude < 0) {
     longitude += 360;
   }
