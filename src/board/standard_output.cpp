@@ -85,6 +85,7 @@ ssize_t WriteNow(int descriptor, std::string_view text) {
 
 void WriteToReader(int descriptor, std::string_view text) {
   const BrokenPipeGuard guard;
+  // MUTATE_EXCL: with nothing pending the wait is the one below.
   if (__fpending(stdout) != 0) {
     if (!WaitForRoom(descriptor)) {
       return;  // the host's text is still to come, and comes first
