@@ -33,6 +33,7 @@ TEST(StandardOutput, FileTakesTheTextAsItIsInOrderWithTheHosts) {
   CaptureStdout output;
   std::fputs("a", stdout);
   WriteToStandardOutput("100%d\n\tend");
+  EXPECT_NE(__fpending(stdout), 0U);  // as the host's own
   WriteToStandardOutput("");
   std::fputs("b", stdout);
   WriteToStandardOutput(kLongText);
