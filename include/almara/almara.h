@@ -42,8 +42,9 @@
  * Memory: a board takes about 300 bytes a row, and 800 while it is built. Rows are not limited, so
  * a host must not ask for millions of them. Answers are kept without a limit, also where the answer
  * is that there is none: one for each distinct date and language asked, and one week number for
- * each distinct date and rule. Dates that lie together take about 35 bytes each for all four
- * answers, dates scattered over the years 1.6 kB. ForgetAnnotations() gives all of that back.
+ * each distinct date and rule other than ISO, where days are not civil. Dates that lie together
+ * take about 35 bytes each for all four answers, dates scattered over the years 1.6 kB.
+ * ForgetAnnotations() gives all of that back.
  *
  * Output: every board build writes the board as text to the standard output, and GotoTodayOffset()
  * writes the date it went to, unless SetPrintBoard(false) has switched that off. Text that cannot

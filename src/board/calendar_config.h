@@ -22,12 +22,12 @@ class CCalendarConfig {
   int GetMaxRows() const { return m_maxRows; }
   void SetMaxRows(int rows) { m_maxRows = rows; }
 
-  // Days of the day strip, and width of the visible range of a rolling board that shows today. A
+  // Days of the day strip, and width of the visible range of rolling weeks that shows today. A
   // value outside 1 to 7 is ignored.
   int GetMaxColumns() const { return m_maxColumns; }
   void SetMaxColumns(int columns);  // Kept for code that compiles against this class.
 
-  // Whole weeks before the week of the focus date on a rolling board.
+  // Whole weeks before the week of the focus date on a board of rolling weeks.
   int GetPassedWeeks() const { return m_passedWeeks; }
   void SetPassedWeeks(int weeks) { m_passedWeeks = weeks; }
 

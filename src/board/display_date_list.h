@@ -53,9 +53,10 @@ constexpr std::size_t kUsualListSize =
     80;  // entries; spares the lists of usual boards their growth
 
 // The entries of a board in the order of its cells: source with a month interval, seven entries, in
-// front of each month that begins inside it. From a board reached by paging, the whole rows that
-// the intervals pushed past the wanted days are cut again. before and after are the days counted on
-// the two sides of the focus date.
+// front of each month that begins inside it. Under a page direction the whole rows that the
+// intervals pushed past the wanted days are cut again; the whole month loses as many entries as were
+// inserted, paging backward from its front. before and after are the days counted on the two sides
+// of the focus date.
 DateList MakeDisplayList(const BoardRequest& request, const DateList& source, int before,
                          int after);
 

@@ -14,8 +14,8 @@ struct ColumnRange {
   int end;
 };
 
-// A rolling board narrower than a week follows today: the range starts half its width before today,
-// but stays within the board.
+// A board of rolling weeks narrower than a week follows today: the range starts half its width
+// before today, but stays within the board.
 ColumnRange RangeAroundToday(int todayColumn, int columns) {
   const int begin =
       std::min(std::clamp(todayColumn - columns / 2, 0, kDaysOfWeek - 1), kDaysOfWeek - columns);

@@ -27,7 +27,8 @@ class CCalendarLogic : public CCalendarLogicBuild {
   void SetCivilDays(bool on);
 
   // Fixes the time zone of lunar dates and solar terms to 8 (language 1 or 4) or 9 hours (2 or 7),
-  // or leaves it as it is, and builds today's board. The language itself is not kept.
+  // or, for any other, leaves it as it is, and builds today's board, which takes the machine's zone
+  // where none is known. The language itself is not kept.
   void InitCalendarLogic(ELanguage language);
 
   // Builds today's board. Where the focus date already is today, the page direction stays.
@@ -51,7 +52,8 @@ class CCalendarLogic : public CCalendarLogicBuild {
   void GotoSpecifiedDate(int year, int month, int day);
 
   // Whole-month arrangement: offset months from this month. All others: offset pages of as many
-  // weeks as the board has rows, from today. Writes the date to the standard output.
+  // weeks as the board has rows, from today. Writes the date to the standard output if
+  // IsPrintBoard().
   void GotoTodayOffsetMonth(int offset);
 
   int GetContentRows() const { return m_board.visible.rowCount; }
