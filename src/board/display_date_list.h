@@ -54,9 +54,9 @@ constexpr std::size_t kUsualListSize =
 
 // The entries of a board in the order of its cells: source with a month interval, seven entries, in
 // front of each month that begins inside it. Under a page direction the whole rows that the
-// intervals pushed past the wanted days are cut again; the whole month loses as many entries as were
-// inserted, paging backward from its front. before and after are the days counted on the two sides
-// of the focus date.
+// intervals pushed past the wanted days are cut again; the whole month loses as many entries as
+// were inserted, paging backward from its front. before and after are the days counted on the two
+// sides of the focus date.
 DateList MakeDisplayList(const BoardRequest& request, const DateList& source, int before,
                          int after);
 
