@@ -81,6 +81,7 @@ DayCounts CountDaysOfPage(int rows, int column, PageDirection direction) {
 DayCounts CountDaysOfRollingTail(int rows, const FocusDay& focus) {
   const int lead = ColumnOfFirstDay(focus);
   const int focusRow = RowsFor(lead + focus.date.day);  // 1 is the first row of the month
+  // MUTATE_EXCL: days listed after the last row are not shown.
   const int weeksFromFocus = std::max(WrapSubtract(WrapAdd(rows, 1), focusRow), 1);
   DayCounts counts;
   counts.before = focus.date.day - 1;
